@@ -25,8 +25,11 @@ function(sk_add_test name)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
     if(SK_SANITIZE)
+        # Qt's platform plugins keep a few objects until process exit; full stacks let
+        # the suppressions name the plugin without hiding leaks of our own.
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
             "ASAN_OPTIONS=detect_leaks=1:abort_on_error=1"
+            "LSAN_OPTIONS=fast_unwind_on_malloc=0:suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
             "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
     endif()
 endfunction()

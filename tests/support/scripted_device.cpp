@@ -36,7 +36,8 @@ SK_HostIo ScriptedDevice::read(std::uint64_t session, std::uint64_t position, st
         return io;
     const ScriptedReply reply = readReplies.front();
     readReplies.pop_front();
-    std::memcpy(data, reply.bytes.data(), std::min<std::size_t>(size, reply.bytes.size()));
+    if (!reply.bytes.empty())
+        std::memcpy(data, reply.bytes.data(), std::min<std::size_t>(size, reply.bytes.size()));
     io.systemError = reply.systemError;
     return io;
 }
