@@ -8,5 +8,6 @@
 #include "driver/sk_platform.h"
 #include "driver/sk_retry.h"
 #include "driver/sk_status.h"
+#include "driver/sk_system_view.h"
 #include "driver/sk_types.h"
 #include "driver/sktl.h"

@@ -22,6 +22,12 @@ SK_HostEndpoint::~SK_HostEndpoint() = default;
 
 void SK_HostEndpoint::onSleep(std::uint32_t) {}
 
+SK_SystemView &SK_HostEndpoint::system()
+{
+    static SK_SystemView nothing;
+    return nothing;
+}
+
 SK_EmulatedPlatform::SK_EmulatedPlatform(std::shared_ptr<SK_HostEndpoint> endpoint)
     : m_endpoint(std::move(endpoint))
 {

@@ -38,6 +38,9 @@ public:
     // Called for every alertable sleep, so an endpoint with its own clock can let
     // time pass. The default does nothing.
     virtual void onSleep(std::uint32_t milliseconds);
+
+    // The volumes, disks and host facts around the device. The default knows of none.
+    virtual SK_SystemView &system();
 };
 
 class SK_EmulatedPlatform final : public SK_Platform
@@ -53,6 +56,7 @@ public:
     std::uint32_t transfer(bool isRead, SK_Handle handle, void *buffer, std::uint64_t position,
                            std::uint32_t size, void *context, SKTL_Callback callback) override;
     void sleep(std::uint32_t milliseconds) override;
+    SK_SystemView &system() override { return m_endpoint->system(); }
 
     SK_HostEndpoint &endpoint() const { return *m_endpoint; }
     std::size_t openHandleCount() const;

@@ -4,6 +4,12 @@
 
 SK_Platform::~SK_Platform() = default;
 
+SK_SystemView &SK_Platform::system()
+{
+    static SK_SystemView nothing;
+    return nothing;
+}
+
 std::uint32_t SKTL_CompletionResult(std::uint32_t systemError)
 {
     if (systemError == SK_SYSERR_NONE)

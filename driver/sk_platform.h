@@ -3,6 +3,7 @@
 // written once; below it are two implementations: the Win32 one that talks to the
 // real drivers, and the emulated host that answers in their place on any system.
 
+#include "driver/sk_system_view.h"
 #include "driver/sk_types.h"
 
 #include <memory>
@@ -47,6 +48,9 @@ public:
 
     // An alertable sleep; pending completions may run during it.
     virtual void sleep(std::uint32_t milliseconds) = 0;
+
+    // Volumes, disks and host facts of this system. The default knows of none.
+    virtual SK_SystemView &system();
 };
 
 // The platform every device operation goes through. Until one is installed this is

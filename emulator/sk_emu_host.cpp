@@ -1,0 +1,509 @@
+#include "emulator/sk_emu_host.h"
+
+#include "emulator/sk_emu_events.h"
+#include "emulator/sk_emu_image.h"
+#include "emulator/sk_emu_rules.h"
+#include "emulator/sk_emu_scenario.h"
+#include "emulator/sk_emu_system.h"
+#include "emulator/sk_emu_wire.h"
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+
+namespace sk_emu {
+
+using namespace wire;
+
+namespace {
+
+constexpr char kControlDevice[] = "\\\\.\\SKConfig0";
+
+bool driverLoaded(const Model &model, const char *name)
+{
+    return std::any_of(model.host.drivers.begin(), model.host.drivers.end(),
+                       [name](const DriverFile &d) { return d.name == name && d.loaded; });
+}
+
+std::int64_t fileStamp(const std::string &path)
+{
+    std::error_code ec;
+    const auto time = std::filesystem::last_write_time(path, ec);
+    if (ec)
+        return 0;
+    const auto size = std::filesystem::file_size(path, ec);
+    return time.time_since_epoch().count() ^ static_cast<std::int64_t>(ec ? 0 : size);
+}
+
+} // namespace
+
+Host::Host(Model model, std::shared_ptr<SK_EmuClock> clock)
+    : m_model(std::move(model)),
+      m_clock(clock ? std::move(clock) : std::make_shared<SK_EmuSystemClock>())
+{
+    m_system = makeSystemView(*this);
+    m_stats.advance(m_model, m_clock->nowMs());
+}
+
+Host::~Host() = default;
+
+std::shared_ptr<Host> Host::openStateFile(const std::string &path, std::string &error,
+                                          std::shared_ptr<SK_EmuClock> clock)
+{
+    Model model;
+    std::error_code ec;
+    if (std::filesystem::exists(path, ec)) {
+        if (!readStateFile(path, model, error))
+            return nullptr;
+    } else {
+        model = defaultScenario();
+        if (!writeStateFileAtomically(path, model, error))
+            return nullptr;
+    }
+    auto host = std::make_shared<Host>(std::move(model), std::move(clock));
+    std::lock_guard<std::recursive_mutex> guard(host->m_mutex);
+    host->m_statePath = path;
+    host->m_stateStamp = fileStamp(path);
+    return host;
+}
+
+// --- Sessions and channels ---------------------------------------------------------
+
+std::uint64_t Host::open(const std::string &osName, std::uint32_t, std::uint32_t)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    reloadIfChangedOnDisk();
+    // The control device exists while the configuration driver is loaded.
+    if (osName != kControlDevice || !driverLoaded(m_model, "skcfg.sys"))
+        return 0;
+    const std::uint64_t session = m_nextSession++;
+    m_sessions[session] = Session{osName, 0};
+    return session;
+}
+
+void Host::close(std::uint64_t session)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    auto it = m_sessions.find(session);
+    if (it == m_sessions.end())
+        return;
+    if (it->second.channelId)
+        m_channels.erase(it->second.channelId);
+    m_sessions.erase(it);
+}
+
+bool Host::consumeTransferFault(SK_HostIo &io)
+{
+    if (m_model.faults.failedTransfers == 0)
+        return false;
+    --m_model.faults.failedTransfers;
+    saveQuietly();
+    io.systemError = kTransferIoError;
+    io.bytes = 0;
+    return true;
+}
+
+bool Host::consumeRefusal(std::uint32_t &status)
+{
+    if (m_model.faults.refuseCount == 0)
+        return false;
+    --m_model.faults.refuseCount;
+    status = m_model.faults.refuseStatus;
+    saveQuietly();
+    return true;
+}
+
+SK_HostIo Host::read(std::uint64_t session, std::uint64_t position, std::uint8_t *data,
+                     std::uint32_t size)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    SK_HostIo io;
+    auto sessionIt = m_sessions.find(session);
+    if (sessionIt == m_sessions.end()) {
+        io.queued = false;
+        io.systemError = 6; // ERROR_INVALID_HANDLE
+        return io;
+    }
+    if (consumeTransferFault(io))
+        return io;
+    std::memset(data, 0, size);
+
+    if (position == 0) {
+        // Each handle gets its own channel on its first id read.
+        Session &s = sessionIt->second;
+        if (s.channelId == 0) {
+            s.channelId = m_nextChannel++;
+            if (m_nextChannel == 0)
+                m_nextChannel = 1;
+            m_channels[s.channelId] = Channel{session, false, {}, proto::Success};
+        }
+        if (size >= 4)
+            put32(data, 0, s.channelId);
+        io.bytes = size;
+        return io;
+    }
+
+    auto channelIt = m_channels.find(static_cast<std::uint32_t>(position / proto::SlotSize));
+    if (position % proto::SlotSize != 0 || channelIt == m_channels.end()) {
+        io.systemError = SK_SYSERR_INVALID_PARAMETER;
+        return io;
+    }
+    return answerRead(channelIt->second, data, size);
+}
+
+SK_HostIo Host::write(std::uint64_t session, std::uint64_t position, const std::uint8_t *data,
+                      std::uint32_t size)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    SK_HostIo io;
+    if (!m_sessions.count(session)) {
+        io.queued = false;
+        io.systemError = 6;
+        return io;
+    }
+    if (consumeTransferFault(io))
+        return io;
+    auto channelIt = m_channels.find(static_cast<std::uint32_t>(position / proto::SlotSize));
+    if (position == 0 || position % proto::SlotSize != 0 || channelIt == m_channels.end()) {
+        io.systemError = SK_SYSERR_INVALID_PARAMETER;
+        return io;
+    }
+    return acceptWrite(channelIt->second, data, size);
+}
+
+SK_HostIo Host::refuse(Channel &channel, std::uint32_t status)
+{
+    channel.lastStatus = status;
+    SK_HostIo io;
+    io.systemError = kTransferRefused;
+    return io;
+}
+
+SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size)
+{
+    if (size < proto::SlotSize)
+        return refuse(channel, proto::BufferTooSmall);
+    if (std::uint32_t status = 0; consumeRefusal(status))
+        return refuse(channel, status);
+    if (u32(data, proto::ApiLevel) != 2)
+        return refuse(channel, proto::UnsupportedApi);
+
+    const std::uint32_t command = u32(data, proto::Command);
+    if (command == proto::ReadCommand) {
+        // A read request waits for the next read at the same position.
+        channel.request.assign(data, data + size);
+        channel.readPending = true;
+        channel.lastStatus = proto::Success;
+        SK_HostIo io;
+        io.bytes = size;
+        return io;
+    }
+
+    if (m_model.faults.staleWrites) {
+        --m_model.faults.staleWrites;
+        saveQuietly();
+        return refuse(channel, proto::InvalidGeneration);
+    }
+    if (u64(data, proto::Generation) != m_model.generation)
+        return refuse(channel, proto::InvalidGeneration);
+
+    auto handler = m_handlers.find(command);
+    if (handler == m_handlers.end())
+        return refuse(channel, proto::BadFunction);
+
+    Model working = m_model;
+    const CommandResult result = handler->second(*this, working, data, size);
+    if (result.status != proto::Success)
+        return refuse(channel, result.status); // the model is left as it was
+    if (result.configurationChanged) {
+        recordHistory();
+        m_model = std::move(working);
+        ++m_model.generation;
+    } else {
+        m_model = std::move(working);
+    }
+    channel.lastStatus = proto::Success;
+    saveQuietly();
+    SK_HostIo io;
+    io.bytes = size;
+    return io;
+}
+
+SK_HostIo Host::answerRead(Channel &channel, std::uint8_t *data, std::uint32_t size)
+{
+    if (!channel.readPending)
+        return refuse(channel, proto::NoReadCommand);
+    channel.readPending = false;
+    // The reason of a refusal is always told, so the console learns the status.
+    if (std::uint32_t status = 0; u32(channel.request.data(), proto::ReadCode)
+                                      != proto::ReadLastStatus
+                                  && consumeRefusal(status))
+        return refuse(channel, status);
+
+    std::uint32_t status = proto::Success;
+    const std::vector<std::uint8_t> reply = replyFor(channel, status);
+    if (status != proto::Success)
+        return refuse(channel, status);
+    std::memcpy(data, reply.data(), std::min<std::size_t>(size, reply.size()));
+    if (size >= 4)
+        put32(data, proto::Command, proto::Success);
+    SK_HostIo io;
+    io.bytes = size;
+    return io;
+}
+
+std::vector<std::uint8_t> Host::replyFor(Channel &channel, std::uint32_t &status)
+{
+    const std::uint8_t *request = channel.request.data();
+    const std::uint32_t readCode = u32(request, proto::ReadCode);
+    const std::uint32_t channelId = u32(request, proto::Channel);
+    std::vector<std::uint8_t> reply(proto::ReplySize, 0);
+
+    switch (readCode) {
+    case proto::ReadConfig: {
+        const std::uint32_t wanted = u32(request, proto::Parameter);
+        if (wanted == 0)
+            return writeImage(m_model, ImageOptions{false, channelId});
+        for (const auto &[generation, model] : m_history) {
+            if (static_cast<std::uint32_t>(generation) == wanted)
+                return writeImage(model, ImageOptions{true, channelId});
+        }
+        status = proto::InvalidGeneration;
+        return {};
+    }
+    case proto::ReadEvent:
+        writeEventReply(m_model, u32(request, proto::Parameter), reply.data());
+        return reply;
+    case proto::ReadStats:
+    case proto::ReadStatsReset:
+        m_stats.fill(m_model, m_clock->nowMs(), reply.data());
+        if (readCode == proto::ReadStatsReset)
+            m_stats.resetInterval();
+        return reply;
+    case proto::ReadLastStatus:
+        put32(reply.data(), 0, channel.lastStatus);
+        return reply;
+    default: {
+        auto handler = m_handlers.find(readCode);
+        if (handler != m_handlers.end()) {
+            // Read codes with their own handler (create info, SMART data, ...) answer
+            // into the reply behind the request header.
+            Model working = m_model;
+            reply.assign(request, request + std::min<std::size_t>(channel.request.size(),
+                                                                  proto::ReplySize));
+            reply.resize(proto::ReplySize, 0);
+            const CommandResult result =
+                handler->second(*this, working, reply.data(), proto::ReplySize);
+            status = result.status;
+            return reply;
+        }
+        status = proto::BadConfigFunction;
+        return {};
+    }
+    }
+}
+
+void Host::onSleep(std::uint32_t milliseconds)
+{
+    m_clock->sleep(milliseconds);
+}
+
+SK_SystemView &Host::system()
+{
+    return *m_system;
+}
+
+// --- Model access ------------------------------------------------------------------
+
+Model Host::model() const
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    const_cast<Host *>(this)->reloadIfChangedOnDisk();
+    return m_model;
+}
+
+std::uint64_t Host::generation() const
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    return m_model.generation;
+}
+
+void Host::recordHistory()
+{
+    m_history.emplace_front(m_model.generation, m_model);
+    while (m_history.size() > kGenerationHistory)
+        m_history.pop_back();
+}
+
+void Host::modify(const std::function<bool(Model &)> &change)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    reloadIfChangedOnDisk();
+    Model working = m_model;
+    const bool configurationChanged = change(working);
+    if (configurationChanged) {
+        recordHistory();
+        ++working.generation;
+    }
+    m_model = std::move(working);
+    saveQuietly();
+}
+
+void Host::injectEvent(std::uint16_t message, const std::array<std::uint32_t, 8> &params)
+{
+    modify([&](Model &m) {
+        m.logEvent(message);
+        m.events.back().params = params;
+        return false;
+    });
+}
+
+void Host::setCommandHandler(std::uint32_t command, CommandHandler handler)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    m_handlers[command] = std::move(handler);
+}
+
+// --- Faults ------------------------------------------------------------------------
+
+bool Host::failDisk(std::uint64_t diskId)
+{
+    bool found = false;
+    modify([&](Model &m) {
+        Disk *disk = m.findDisk(diskId);
+        if (!disk)
+            return false;
+        found = true;
+        disk->state = code::DiskOffline;
+        m.logEvent(event::DriveFailed, {disk->controller, disk->port});
+        markMemberLost(m, diskId, code::MemberFailed | code::MemberOffline);
+        return true;
+    });
+    return found;
+}
+
+bool Host::pullDisk(std::uint64_t diskId)
+{
+    bool found = false;
+    modify([&](Model &m) {
+        Disk *disk = m.findDisk(diskId);
+        if (!disk || !disk->attached)
+            return false;
+        found = true;
+        disk->attached = false;
+        disk->state = code::DiskOffline;
+        m.logEvent(event::DriveDisconnected);
+        m.logEvent(event::DeviceDisconnected, {disk->controller, disk->port});
+        markMemberLost(m, diskId, code::MemberNotPresent | code::MemberOffline);
+        return true;
+    });
+    return found;
+}
+
+void Host::insertDisk(const Disk &disk)
+{
+    modify([&](Model &m) {
+        Disk inserted = disk;
+        inserted.attached = true;
+        inserted.state = code::DiskOffline; // online after the next rescan
+        m.disks.push_back(inserted);
+        m.logEvent(event::NewDriveConnected);
+        m.logEvent(event::DeviceConnected, {inserted.controller, inserted.port});
+        return true;
+    });
+}
+
+bool Host::setSmartError(std::uint64_t diskId, bool on)
+{
+    bool found = false;
+    modify([&](Model &m) {
+        Disk *disk = m.findDisk(diskId);
+        if (!disk)
+            return false;
+        found = true;
+        const std::uint32_t state = on ? code::DiskSmartError : code::DiskOnline;
+        if (disk->state == state)
+            return false;
+        disk->state = state;
+        if (on)
+            m.logEvent(event::SmartThresholdExceeded, {disk->controller, disk->port});
+        return true;
+    });
+    return found;
+}
+
+void Host::refuseNextRequests(std::uint32_t count, std::uint32_t status)
+{
+    modify([&](Model &m) {
+        m.faults.refuseCount = count;
+        m.faults.refuseStatus = status;
+        return false;
+    });
+}
+
+void Host::staleNextWrites(std::uint32_t count)
+{
+    modify([&](Model &m) {
+        m.faults.staleWrites = count;
+        return false;
+    });
+}
+
+void Host::failNextTransfers(std::uint32_t count)
+{
+    modify([&](Model &m) {
+        m.faults.failedTransfers = count;
+        return false;
+    });
+}
+
+// --- Persistence -------------------------------------------------------------------
+
+void Host::attachStateFile(const std::string &path)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    m_statePath = path;
+    saveQuietly();
+}
+
+bool Host::save(std::string &error)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    if (m_statePath.empty()) {
+        error = "no state file is attached";
+        return false;
+    }
+    if (!writeStateFileAtomically(m_statePath, m_model, error))
+        return false;
+    m_stateStamp = fileStamp(m_statePath);
+    return true;
+}
+
+void Host::saveQuietly()
+{
+    std::string error;
+    if (!m_statePath.empty())
+        save(error);
+}
+
+// Another process (skemu) may have changed the state file: take its state, keeping
+// channels and statistics. A file that no longer reads is ignored, not overwritten
+// until our own next change.
+void Host::reloadIfChangedOnDisk()
+{
+    if (m_statePath.empty())
+        return;
+    const std::int64_t stamp = fileStamp(m_statePath);
+    if (stamp == 0 || stamp == m_stateStamp)
+        return;
+    Model model;
+    std::string error;
+    if (!readStateFile(m_statePath, model, error))
+        return;
+    m_stateStamp = stamp;
+    if (model.generation != m_model.generation)
+        recordHistory();
+    m_model = std::move(model);
+}
+
+} // namespace sk_emu

@@ -1,0 +1,166 @@
+#pragma once
+// The emulated host: the drivers' side of the control-device protocol and the
+// Windows storage view around it, answered from one model. Install it with
+// SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(host)) and the console
+// cannot tell it from the real stack.
+
+#include "driver/sk_emulated_platform.h"
+#include "emulator/sk_emu_clock.h"
+#include "emulator/sk_emu_model.h"
+#include "emulator/sk_emu_stats.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace sk_emu {
+
+// Protocol constants, as the drivers know them.
+namespace proto {
+constexpr std::size_t SlotSize = 512; // channel n talks at position n * 512
+constexpr std::size_t Command = 0;
+constexpr std::size_t Channel = 4;
+constexpr std::size_t Generation = 8;
+constexpr std::size_t Option = 16;
+constexpr std::size_t ApiLevel = 24;
+constexpr std::size_t ApiRevision = 28;
+constexpr std::size_t ReadCode = 32;
+constexpr std::size_t Parameter = 36;
+constexpr std::uint32_t ReadCommand = 1;
+constexpr std::uint32_t ReadConfig = 4096;
+constexpr std::uint32_t ReadEvent = 4098;
+constexpr std::uint32_t ReadStats = 4103;
+constexpr std::uint32_t ReadStatsReset = 4104;
+constexpr std::uint32_t ReadLastStatus = 4118;
+constexpr std::uint32_t ReplySize = 8192;
+
+// Statuses the drivers answer with.
+constexpr std::uint32_t Success = 1;
+constexpr std::uint32_t BadFunction = 20;
+constexpr std::uint32_t BadConfigFunction = 22;
+constexpr std::uint32_t NoReadCommand = 24;
+constexpr std::uint32_t BufferTooSmall = 26;
+constexpr std::uint32_t InvalidGeneration = 38;
+constexpr std::uint32_t UnsupportedApi = 60;
+} // namespace proto
+
+// System error a failed transfer completes with (ERROR_GEN_FAILURE).
+constexpr std::uint32_t kTransferRefused = 31;
+constexpr std::uint32_t kTransferIoError = 1117; // ERROR_IO_DEVICE
+
+// What a write command did: its status, and whether the configuration changed.
+struct CommandResult
+{
+    std::uint32_t status = proto::Success;
+    bool configurationChanged = false;
+};
+
+class Host final : public SK_HostEndpoint
+{
+public:
+    // A host over `model`. Without a clock it runs on the system clock.
+    explicit Host(Model model, std::shared_ptr<SK_EmuClock> clock = nullptr);
+    ~Host() override;
+
+    // Loads the state file, or creates it from the default scenario when it does not
+    // exist. On failure returns null and says why in `error`; the file is left as it is.
+    static std::shared_ptr<Host> openStateFile(const std::string &path, std::string &error,
+                                               std::shared_ptr<SK_EmuClock> clock = nullptr);
+
+    // --- SK_HostEndpoint ---
+    std::uint64_t open(const std::string &osName, std::uint32_t openMode,
+                       std::uint32_t flagMode) override;
+    void close(std::uint64_t session) override;
+    SK_HostIo read(std::uint64_t session, std::uint64_t position, std::uint8_t *data,
+                   std::uint32_t size) override;
+    SK_HostIo write(std::uint64_t session, std::uint64_t position, const std::uint8_t *data,
+                    std::uint32_t size) override;
+    void onSleep(std::uint32_t milliseconds) override;
+    SK_SystemView &system() override;
+
+    // --- Model access for tools and tests (changes are saved when a file is attached) ---
+    Model model() const;
+    // Runs `change` on the model; when it returns true the generation is raised.
+    void modify(const std::function<bool(Model &)> &change);
+    std::uint64_t generation() const;
+    SK_EmuClock &clock() const { return *m_clock; }
+
+    // Appends an event to the driver's log, as the reverse path of the console does.
+    void injectEvent(std::uint16_t message, const std::array<std::uint32_t, 8> &params);
+
+    // --- Faults ---
+    // A member disk fails: the disk goes offline, its arrays degrade.
+    bool failDisk(std::uint64_t diskId);
+    // The disk is pulled out; it stays listed, offline, until a rescan.
+    bool pullDisk(std::uint64_t diskId);
+    // A disk is plugged in; it comes online with the next rescan.
+    void insertDisk(const Disk &disk);
+    // The disk reports a SMART threshold crossing (or stops doing so).
+    bool setSmartError(std::uint64_t diskId, bool on);
+    // The next `count` requests are refused with `status`.
+    void refuseNextRequests(std::uint32_t count, std::uint32_t status);
+    // The next `count` write commands are answered as stale (38).
+    void staleNextWrites(std::uint32_t count);
+    // The next `count` transfers fail at the system level.
+    void failNextTransfers(std::uint32_t count);
+
+    // --- Persistence ---
+    // Saves after every change to `path`. Empty detaches.
+    void attachStateFile(const std::string &path);
+    const std::string &stateFile() const { return m_statePath; }
+    // Writes the current state to the attached file now; false with `error` on failure.
+    bool save(std::string &error);
+
+    // Write-command handlers, by command code. The command layer installs its own.
+    using CommandHandler =
+        std::function<CommandResult(Host &, Model &, const std::uint8_t *, std::uint32_t)>;
+    void setCommandHandler(std::uint32_t command, CommandHandler handler);
+
+    // Configuration images of recent generations, for reads of a previous generation.
+    static constexpr std::size_t kGenerationHistory = 8;
+
+private:
+    struct Channel
+    {
+        std::uint64_t session = 0;
+        bool readPending = false;
+        std::vector<std::uint8_t> request;
+        std::uint32_t lastStatus = proto::Success;
+    };
+    struct Session
+    {
+        std::string device;
+        std::uint32_t channelId = 0;
+    };
+
+    SK_HostIo refuse(Channel &channel, std::uint32_t status);
+    SK_HostIo answerRead(Channel &channel, std::uint8_t *data, std::uint32_t size);
+    SK_HostIo acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size);
+    std::vector<std::uint8_t> replyFor(Channel &channel, std::uint32_t &status);
+    void reloadIfChangedOnDisk();
+    void saveQuietly();
+    void recordHistory();
+    bool consumeTransferFault(SK_HostIo &io);
+    bool consumeRefusal(std::uint32_t &status);
+
+    mutable std::recursive_mutex m_mutex;
+    Model m_model;
+    std::shared_ptr<SK_EmuClock> m_clock;
+    Statistics m_stats;
+    std::map<std::uint64_t, Session> m_sessions;
+    std::map<std::uint32_t, Channel> m_channels;
+    std::map<std::uint32_t, CommandHandler> m_handlers;
+    std::deque<std::pair<std::uint64_t, Model>> m_history;
+    std::uint64_t m_nextSession = 1;
+    std::uint32_t m_nextChannel = 1;
+
+    std::string m_statePath;
+    std::int64_t m_stateStamp = 0; // modification time of the file as last read or written
+
+    std::unique_ptr<SK_SystemView> m_system;
+};
+
+} // namespace sk_emu
