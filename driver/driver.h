@@ -7,6 +7,7 @@
 #include "driver/sk_image.h"
 #include "driver/sk_platform.h"
 #include "driver/sk_retry.h"
+#include "driver/sk_services.h"
 #include "driver/sk_status.h"
 #include "driver/sk_system_view.h"
 #include "driver/sk_types.h"
