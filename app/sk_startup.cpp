@@ -1,5 +1,6 @@
 #include "app/sk_startup.h"
 
+#include "app/sk_backend.h"
 #include "app/sk_languages.h"
 #include "app/sk_mainwindow.h"
 #include "app/sk_settings.h"
@@ -84,6 +85,16 @@ int SK_RunConsole(QApplication &app)
     QTranslator translator;
     QSettings settings;
     SK_ChooseTranslation(translator, settings);
+
+    QString backendError;
+    if (!SK_InstallBackend(backendError)) {
+        QMessageBox::critical(nullptr, QCoreApplication::applicationName(),
+                              QCoreApplication::translate("main",
+                                                          "The emulated host could not be "
+                                                          "started:\n%1\n\nThe console "
+                                                          "runs without RAID drivers.")
+                                  .arg(backendError));
+    }
 
     int result = 0;
     {

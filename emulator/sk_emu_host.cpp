@@ -126,9 +126,11 @@ SK_HostIo Host::read(std::uint64_t session, std::uint64_t position, std::uint8_t
     }
     if (consumeTransferFault(io))
         return io;
-    std::memset(data, 0, size);
 
+    // A refused or failed read leaves the caller's buffer as it was, like a request
+    // the real device completes with an error.
     if (position == 0) {
+        std::memset(data, 0, size);
         // Each handle gets its own channel on its first id read.
         Session &s = sessionIt->second;
         if (s.channelId == 0) {
@@ -191,9 +193,9 @@ SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uin
     const std::uint32_t command = u32(data, proto::Command);
     if (command == proto::ReadCommand) {
         // A read request waits for the next read at the same position.
+        // The last status stays as it is: the read may be the one that asks for it.
         channel.request.assign(data, data + size);
         channel.readPending = true;
-        channel.lastStatus = proto::Success;
         SK_HostIo io;
         io.bytes = size;
         return io;
@@ -244,9 +246,8 @@ SK_HostIo Host::answerRead(Channel &channel, std::uint8_t *data, std::uint32_t s
     const std::vector<std::uint8_t> reply = replyFor(channel, status);
     if (status != proto::Success)
         return refuse(channel, status);
+    std::memset(data, 0, size);
     std::memcpy(data, reply.data(), std::min<std::size_t>(size, reply.size()));
-    if (size >= 4)
-        put32(data, proto::Command, proto::Success);
     SK_HostIo io;
     io.bytes = size;
     return io;
@@ -258,6 +259,8 @@ std::vector<std::uint8_t> Host::replyFor(Channel &channel, std::uint32_t &status
     const std::uint32_t readCode = u32(request, proto::ReadCode);
     const std::uint32_t channelId = u32(request, proto::Channel);
     std::vector<std::uint8_t> reply(proto::ReplySize, 0);
+    // Every answer but the last-status one starts with the success status.
+    put32(reply.data(), proto::Command, proto::Success);
 
     switch (readCode) {
     case proto::ReadConfig: {
@@ -292,6 +295,7 @@ std::vector<std::uint8_t> Host::replyFor(Channel &channel, std::uint32_t &status
             reply.assign(request, request + std::min<std::size_t>(channel.request.size(),
                                                                   proto::ReplySize));
             reply.resize(proto::ReplySize, 0);
+            put32(reply.data(), proto::Command, proto::Success);
             const CommandResult result =
                 handler->second(*this, working, reply.data(), proto::ReplySize);
             status = result.status;

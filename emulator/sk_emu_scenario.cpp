@@ -94,6 +94,11 @@ std::string hex16(std::uint32_t value)
 
 // --- Reading, with the path of every field for the error message ----------------------
 
+std::string join(const std::string &path, const char *key)
+{
+    return path.empty() ? std::string(key) : path + "." + key;
+}
+
 class Reader
 {
 public:
@@ -116,7 +121,7 @@ public:
         auto it = object.find(key);
         if (it == object.end()) {
             if (required)
-                fail(path + "." + key, "is missing");
+                fail(join(path, key), "is missing");
             return nullptr;
         }
         return &*it;
@@ -129,7 +134,7 @@ public:
         const Json *v = member(object, path, key, required);
         if (!v)
             return fallback;
-        const std::string where = path + "." + key;
+        const std::string where = join(path, key);
         std::uint64_t value = 0;
         if (v->is_number_unsigned()) {
             value = v->get<std::uint64_t>();
@@ -172,12 +177,12 @@ public:
         if (!v)
             return {};
         if (!v->is_string()) {
-            fail(path + "." + key, "expected text");
+            fail(join(path, key), "expected text");
             return {};
         }
         std::string value = v->get<std::string>();
         if (value.size() > maxLength)
-            fail(path + "." + key, "is longer than " + std::to_string(maxLength) + " bytes");
+            fail(join(path, key), "is longer than " + std::to_string(maxLength) + " bytes");
         return value;
     }
 
@@ -187,7 +192,7 @@ public:
         if (!v)
             return fallback;
         if (!v->is_boolean()) {
-            fail(path + "." + key, "expected true or false");
+            fail(join(path, key), "expected true or false");
             return fallback;
         }
         return v->get<bool>();
@@ -209,7 +214,7 @@ public:
             std::string known;
             for (const Word &w : words)
                 known += std::string(known.empty() ? "" : ", ") + w.word;
-            fail(path + "." + key, "\"" + text + "\" is not one of " + known);
+            fail(join(path, key), "\"" + text + "\" is not one of " + known);
             return fallback;
         }
         return u32(object, path, key, fallback);
@@ -219,7 +224,7 @@ public:
     {
         const Json *v = member(object, path, key, false);
         if (v && !v->is_array()) {
-            fail(path + "." + key, "expected a list");
+            fail(join(path, key), "expected a list");
             return nullptr;
         }
         return v;
@@ -490,7 +495,7 @@ char driveLetter(Reader &r, const Json &object, const std::string &path, const c
         return fallback;
     const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
     if (letter < 'A' || letter > 'Z' || (text.size() == 2 && text[1] != ':'))
-        r.fail(path + "." + key, "\"" + text + "\" is not a drive letter");
+        r.fail(join(path, key), "\"" + text + "\" is not a drive letter");
     return letter;
 }
 
@@ -810,30 +815,30 @@ bool parseScenario(const std::string &text, Model &model, std::string &error)
     }
     Reader r;
     model = Model{};
-    const std::string format = r.text(root, "scenario", "format", 64, true);
+    const std::string format = r.text(root, "", "format", 64, true);
     if (!r.failed() && format != kFormat)
-        r.fail("scenario.format", "expected \"" + std::string(kFormat) + "\"");
-    const std::uint32_t version = r.u32(root, "scenario", "version", 0, 0xFFFF, true);
+        r.fail("format", "expected \"" + std::string(kFormat) + "\"");
+    const std::uint32_t version = r.u32(root, "", "version", 0, 0xFFFF, true);
     if (!r.failed() && version != kVersion)
-        r.fail("scenario.version", "version " + std::to_string(version) + " is not supported");
-    model.generation = r.number(root, "scenario", "generation", 1, ~0ull - 1);
+        r.fail("version", "version " + std::to_string(version) + " is not supported");
+    model.generation = r.number(root, "", "generation", 1, ~0ull - 1);
 
-    if (const Json *host = r.member(root, "scenario", "host", false))
+    if (const Json *host = r.member(root, "", "host", false))
         readHost(r, *host, "host", model.host);
-    if (const Json *list = r.list(root, "scenario", "controllers")) {
+    if (const Json *list = r.list(root, "", "controllers")) {
         for (std::size_t i = 0; i < list->size() && i < 10; ++i)
             model.controllers.push_back(
                 readController(r, (*list)[i], "controllers[" + std::to_string(i) + "]"));
         if (list->size() > 10)
             r.fail("controllers", "more than 10 controllers");
     }
-    if (const Json *list = r.list(root, "scenario", "disks")) {
+    if (const Json *list = r.list(root, "", "disks")) {
         if (list->size() > 256)
             r.fail("disks", "more than 256 disks");
         for (std::size_t i = 0; i < list->size() && !r.failed(); ++i)
             model.disks.push_back(readDisk(r, (*list)[i], "disks[" + std::to_string(i) + "]"));
     }
-    if (const Json *list = r.list(root, "scenario", "enclosures")) {
+    if (const Json *list = r.list(root, "", "enclosures")) {
         for (std::size_t i = 0; i < list->size() && !r.failed(); ++i) {
             const std::string p = "enclosures[" + std::to_string(i) + "]";
             Enclosure e;
@@ -847,13 +852,13 @@ bool parseScenario(const std::string &text, Model &model, std::string &error)
             model.enclosures.push_back(e);
         }
     }
-    if (const Json *list = r.list(root, "scenario", "arrays")) {
+    if (const Json *list = r.list(root, "", "arrays")) {
         if (list->size() > 128)
             r.fail("arrays", "more than 128 arrays");
         for (std::size_t i = 0; i < list->size() && !r.failed(); ++i)
             model.arrays.push_back(readArray(r, (*list)[i], "arrays[" + std::to_string(i) + "]"));
     }
-    if (const Json *list = r.list(root, "scenario", "volumes")) {
+    if (const Json *list = r.list(root, "", "volumes")) {
         for (std::size_t i = 0; i < list->size() && !r.failed(); ++i) {
             const std::string p = "volumes[" + std::to_string(i) + "]";
             Volume v;
@@ -873,9 +878,9 @@ bool parseScenario(const std::string &text, Model &model, std::string &error)
             model.volumes.push_back(v);
         }
     }
-    if (const Json *events = r.member(root, "scenario", "events", false))
+    if (const Json *events = r.member(root, "", "events", false))
         readEvents(r, *events, "events", model);
-    if (const Json *f = r.member(root, "scenario", "faults", false)) {
+    if (const Json *f = r.member(root, "", "faults", false)) {
         model.faults.refuseCount = r.u32(*f, "faults", "refuseRequests", 0);
         model.faults.refuseStatus = r.u32(*f, "faults", "refuseStatus", 3, 82);
         model.faults.staleWrites = r.u32(*f, "faults", "staleWrites", 0);

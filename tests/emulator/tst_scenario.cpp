@@ -1,0 +1,221 @@
+// Scenario files: what reads back equal, what is refused with which reason, and how
+// the state file is kept.
+
+#include "emulator/emulator.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using namespace sk_emu;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string readAll(const fs::path &path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+class TempFolder
+{
+public:
+    TempFolder()
+    {
+        char pattern[] = "/tmp/skemu-test-XXXXXX";
+        m_path = mkdtemp(pattern);
+    }
+    ~TempFolder()
+    {
+        std::error_code ec;
+        fs::remove_all(m_path, ec);
+    }
+    fs::path file(const char *name) const { return m_path / name; }
+
+private:
+    fs::path m_path;
+};
+
+TEST(Scenario, defaultScenarioReadsBackToTheSameText)
+{
+    const std::string first = writeScenario(defaultScenario());
+    Model model;
+    std::string error;
+    ASSERT_TRUE(parseScenario(first, model, error)) << error;
+    EXPECT_EQ(writeScenario(model), first);
+    EXPECT_EQ(model.arrays.size(), 2u);
+    EXPECT_EQ(model.arrays[1].layout.capacity, 2 * model.arrays[1].layout.members[0].size);
+    EXPECT_TRUE(model.disks[5].globalSpare);
+    ASSERT_TRUE(model.disks[6].nvme.has_value());
+    EXPECT_EQ(model.disks[6].nvme->powerOnHours, 1873u);
+}
+
+TEST(Scenario, defaultScenarioLooksLikeTheWorkstationItDescribes)
+{
+    const Model m = defaultScenario();
+    EXPECT_EQ(m.controllers.size(), 1u);
+    const auto nvme = std::count_if(m.disks.begin(), m.disks.end(),
+                                    [](const Disk &d) { return d.isNvme(); });
+    const auto ssd = std::count_if(m.disks.begin(), m.disks.end(), [](const Disk &d) {
+        return (d.portType & code::PortSsd) != 0;
+    });
+    EXPECT_EQ(nvme, 1);
+    EXPECT_EQ(ssd, 2);
+    EXPECT_EQ(m.arrays[0].layout.type, code::TypeMirrorStripe);
+    EXPECT_EQ(m.arrays[1].layout.type, code::TypeParity);
+    EXPECT_EQ(m.volumes[0].letter, 'C');
+    EXPECT_EQ(m.volumes[0].arrays.front(), m.arrays[0].id);
+    EXPECT_GE(m.events.front().number, 3u);
+}
+
+TEST(Scenario, levelWordsGiveTheirTypesCountsAndCapacities)
+{
+    const char *text = R"({"format": "StrataKeep emulated host", "version": 1,
+        "controllers": [{"id": "0x1"}],
+        "disks": [{"id": "0xd1", "port": 0, "capacitySectors": 1000000},
+                  {"id": "0xd2", "port": 1, "capacitySectors": 1000000},
+                  {"id": "0xd3", "port": 2, "capacitySectors": 1000000},
+                  {"id": "0xd4", "port": 3, "capacitySectors": 1000000}],
+        "arrays": [{"id": "0xa1", "route": 1, "level": "RAID10", "members": [
+                      {"disk": "0xd1", "sizeSectors": 1000}, {"disk": "0xd2", "sizeSectors": 1000},
+                      {"disk": "0xd3", "sizeSectors": 1000}, {"disk": "0xd4", "sizeSectors": 1000}]},
+                   {"id": "0xa2", "route": 2, "level": "RAID6", "members": [
+                      {"disk": "0xd1", "offsetSectors": 1000, "sizeSectors": 500},
+                      {"disk": "0xd2", "offsetSectors": 1000, "sizeSectors": 500},
+                      {"disk": "0xd3", "offsetSectors": 1000, "sizeSectors": 500},
+                      {"disk": "0xd4", "offsetSectors": 1000, "sizeSectors": 400}]}]})";
+    Model m;
+    std::string error;
+    ASSERT_TRUE(parseScenario(text, m, error)) << error;
+    EXPECT_EQ(m.arrays[0].layout.firstCount, 2u);
+    EXPECT_EQ(m.arrays[0].layout.secondCount, 2u);
+    EXPECT_EQ(m.arrays[0].layout.capacity, 2000u);
+    EXPECT_EQ(m.arrays[1].layout.type, code::TypeDoubleParity);
+    EXPECT_EQ(m.arrays[1].layout.capacity, 800u); // (4 - 2) x the smallest member
+}
+
+struct BadScenario
+{
+    const char *what;
+    std::string change; // JSON merged into a valid scenario
+    const char *reason;
+};
+
+class MalformedScenario : public ::testing::TestWithParam<BadScenario>
+{
+};
+
+TEST_P(MalformedScenario, isRefusedWithTheFieldAndTheReason)
+{
+    nlohmann::ordered_json base = nlohmann::ordered_json::parse(writeScenario(defaultScenario()));
+    base.merge_patch(nlohmann::ordered_json::parse(GetParam().change));
+    Model m;
+    std::string error;
+    EXPECT_FALSE(parseScenario(base.dump(), m, error)) << GetParam().what;
+    EXPECT_NE(error.find(GetParam().reason), std::string::npos)
+        << GetParam().what << ": " << error;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, MalformedScenario,
+    ::testing::Values(
+        BadScenario{"wrong format", R"({"format": "something else"})", "format: expected"},
+        BadScenario{"future version", R"({"version": 9})", "version 9 is not supported"},
+        BadScenario{"negative generation", R"({"generation": -1})", "must not be negative"},
+        BadScenario{"text for a number", R"({"generation": "twelve"})", "is not a number"},
+        BadScenario{"disk list is an object", R"({"disks": {"a": 1}})", "disks: expected a list"},
+        BadScenario{"event numbers below three",
+                    R"({"events": {"entries": [{"number": 2, "message": 1001}]}})",
+                    "events.entries[0].number"},
+        BadScenario{"unknown level",
+                    R"({"arrays": [{"id": "0x5", "route": 3, "level": "RAID7", "members": []}]})",
+                    "\"RAID7\" is not a known level"},
+        BadScenario{"volume on a missing array",
+                    R"({"volumes": [{"letter": "E:", "arrays": ["0x99"]}]})", "no array 0x"},
+        BadScenario{"bad drive letter", R"({"volumes": [{"letter": "1"}]})", "not a drive letter"},
+        BadScenario{"computer name is not text",
+                    R"({"host": {"computerName": 5}})", "host.computerName: expected text"}));
+
+TEST(Scenario, structuralProblemsNameTheOffendingRecord)
+{
+    Model m = defaultScenario();
+    m.arrays[1].layout.members[2].offset = m.disks[4].capacity; // past the end
+    std::string error;
+    Model back;
+    EXPECT_FALSE(parseScenario(writeScenario(m), back, error));
+    EXPECT_NE(error.find("arrays[1].members[2]: the extent runs past the end"), std::string::npos)
+        << error;
+
+    m = defaultScenario();
+    m.arrays[1].route = m.arrays[0].route;
+    EXPECT_FALSE(parseScenario(writeScenario(m), back, error));
+    EXPECT_NE(error.find("used twice"), std::string::npos) << error;
+
+    m = defaultScenario();
+    m.arrays[1].layout.members[0] = m.arrays[0].layout.members[0]; // same extent twice
+    EXPECT_FALSE(parseScenario(writeScenario(m), back, error));
+    EXPECT_NE(error.find("overlaps"), std::string::npos) << error;
+
+    EXPECT_FALSE(parseScenario("{\"format\": ", back, error));
+    EXPECT_EQ(error, "not valid JSON");
+    EXPECT_FALSE(parseScenario("", back, error));
+}
+
+TEST(StateFile, isCreatedFromTheDefaultAndSavedOnEveryChange)
+{
+    TempFolder folder;
+    const fs::path path = folder.file("state.json");
+    std::string error;
+    auto host = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
+    ASSERT_TRUE(host) << error;
+    EXPECT_TRUE(fs::exists(path));
+
+    host->injectEvent(1037, {});
+    Model saved;
+    ASSERT_TRUE(readStateFile(path.string(), saved, error)) << error;
+    EXPECT_EQ(saved.events.back().message, 1037u);
+    EXPECT_FALSE(fs::exists(path.string() + ".tmp"));
+}
+
+TEST(StateFile, malformedFileIsReportedWithItsNameAndLeftAlone)
+{
+    TempFolder folder;
+    const fs::path path = folder.file("broken.json");
+    {
+        std::ofstream out(path);
+        out << "{\"format\": \"StrataKeep emulated host\", \"version\": 1, \"disks\": 7}";
+    }
+    const std::string before = readAll(path);
+    std::string error;
+    EXPECT_FALSE(Host::openStateFile(path.string(), error));
+    EXPECT_EQ(error, path.string() + ": disks: expected a list");
+    EXPECT_EQ(readAll(path), before);
+}
+
+TEST(StateFile, changesByAnotherProcessAreTakenOnTheNextRequest)
+{
+    TempFolder folder;
+    const fs::path path = folder.file("shared.json");
+    std::string error;
+    auto console = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
+    ASSERT_TRUE(console) << error;
+    const std::uint64_t disk = console->model().disks[2].id;
+
+    // A second host on the same file stands for skemu in another process.
+    auto tool = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
+    ASSERT_TRUE(tool) << error;
+    ASSERT_TRUE(tool->failDisk(disk));
+
+    const Model seen = console->model();
+    EXPECT_EQ(seen.findDisk(disk)->state, code::DiskOffline);
+    EXPECT_EQ(seen.generation, 28u);
+}
+
+} // namespace
