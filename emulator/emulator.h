@@ -4,6 +4,7 @@
 
 #include "driver/sk_emulated_platform.h"
 #include "emulator/sk_emu_clock.h"
+#include "emulator/sk_emu_commands.h"
 #include "emulator/sk_emu_events.h"
 #include "emulator/sk_emu_host.h"
 #include "emulator/sk_emu_image.h"

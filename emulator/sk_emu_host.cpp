@@ -1,5 +1,6 @@
 #include "emulator/sk_emu_host.h"
 
+#include "emulator/sk_emu_commands.h"
 #include "emulator/sk_emu_events.h"
 #include "emulator/sk_emu_image.h"
 #include "emulator/sk_emu_rules.h"
@@ -43,6 +44,8 @@ Host::Host(Model model, std::shared_ptr<SK_EmuClock> clock)
 {
     m_system = makeSystemView(*this);
     m_stats.advance(m_model, m_clock->nowMs());
+    m_taskClockMs = m_lastProgressSaveMs = m_clock->nowMs();
+    installDriverCommands(*this);
 }
 
 Host::~Host() = default;
@@ -73,6 +76,7 @@ std::uint64_t Host::open(const std::string &osName, std::uint32_t, std::uint32_t
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
     reloadIfChangedOnDisk();
+    runTasks();
     // The control device exists while the configuration driver is loaded.
     if (osName != kControlDevice || !driverLoaded(m_model, "skcfg.sys"))
         return 0;
@@ -87,8 +91,10 @@ void Host::close(std::uint64_t session)
     auto it = m_sessions.find(session);
     if (it == m_sessions.end())
         return;
-    if (it->second.channelId)
+    if (it->second.channelId) {
         m_channels.erase(it->second.channelId);
+        m_pendingReplies.erase(it->second.channelId);
+    }
     m_sessions.erase(it);
 }
 
@@ -126,6 +132,7 @@ SK_HostIo Host::read(std::uint64_t session, std::uint64_t position, std::uint8_t
     }
     if (consumeTransferFault(io))
         return io;
+    runTasks();
 
     // A refused or failed read leaves the caller's buffer as it was, like a request
     // the real device completes with an error.
@@ -165,6 +172,7 @@ SK_HostIo Host::write(std::uint64_t session, std::uint64_t position, const std::
     }
     if (consumeTransferFault(io))
         return io;
+    runTasks();
     auto channelIt = m_channels.find(static_cast<std::uint32_t>(position / proto::SlotSize));
     if (position == 0 || position % proto::SlotSize != 0 || channelIt == m_channels.end()) {
         io.systemError = SK_SYSERR_INVALID_PARAMETER;
@@ -214,7 +222,8 @@ SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uin
         return refuse(channel, proto::BadFunction);
 
     Model working = m_model;
-    const CommandResult result = handler->second(*this, working, data, size);
+    std::vector<std::uint8_t> request(data, data + size);
+    const CommandResult result = handler->second(*this, working, request.data(), size);
     if (result.status != proto::Success)
         return refuse(channel, result.status); // the model is left as it was
     if (result.configurationChanged) {
@@ -322,8 +331,62 @@ SK_SystemView &Host::system()
 Model Host::model() const
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
-    const_cast<Host *>(this)->reloadIfChangedOnDisk();
+    auto *self = const_cast<Host *>(this);
+    self->reloadIfChangedOnDisk();
+    self->runTasks();
     return m_model;
+}
+
+// Background work moves on by the time passed since the last look. Progress alone is
+// saved now and then; a task that ends changes the configuration and is saved at once.
+void Host::runTasks()
+{
+    const std::uint64_t now = m_clock->nowMs();
+    if (now <= m_taskClockMs)
+        return;
+    const std::uint64_t elapsed = now - m_taskClockMs;
+    m_taskClockMs = now;
+    Model working = m_model;
+    bool progressed = false;
+    const bool ended = advanceTasks(working, elapsed, progressed);
+    if (!ended && !progressed)
+        return;
+    if (ended)
+        recordHistory();
+    m_model = std::move(working);
+    if (ended)
+        ++m_model.generation;
+    constexpr std::uint64_t kProgressSaveMs = 10000;
+    if (ended || now - m_lastProgressSaveMs >= kProgressSaveMs) {
+        m_lastProgressSaveMs = now;
+        saveQuietly();
+    }
+}
+
+void Host::setPendingReply(std::uint32_t channelId, std::vector<std::uint8_t> data)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    m_pendingReplies[channelId] = std::move(data);
+}
+
+std::vector<std::uint8_t> Host::takePendingReply(std::uint32_t channelId)
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    auto it = m_pendingReplies.find(channelId);
+    if (it == m_pendingReplies.end())
+        return {};
+    std::vector<std::uint8_t> data = std::move(it->second);
+    m_pendingReplies.erase(it);
+    return data;
+}
+
+// A redundant array that lost a member rebuilds onto a spare when one fits.
+void Host::afterMemberLoss(Model &model)
+{
+    for (Array &array : model.arrays) {
+        if (array.state == code::ArrayCritical && array.task.type == code::TaskNone)
+            takeSpareForRebuild(model, array);
+    }
 }
 
 std::uint64_t Host::generation() const
@@ -381,6 +444,7 @@ bool Host::failDisk(std::uint64_t diskId)
         disk->state = code::DiskOffline;
         m.logEvent(event::DriveFailed, {disk->controller, disk->port});
         markMemberLost(m, diskId, code::MemberFailed | code::MemberOffline);
+        afterMemberLoss(m);
         return true;
     });
     return found;
@@ -399,6 +463,7 @@ bool Host::pullDisk(std::uint64_t diskId)
         m.logEvent(event::DriveDisconnected);
         m.logEvent(event::DeviceDisconnected, {disk->controller, disk->port});
         markMemberLost(m, diskId, code::MemberNotPresent | code::MemberOffline);
+        afterMemberLoss(m);
         return true;
     });
     return found;
@@ -410,6 +475,7 @@ void Host::insertDisk(const Disk &disk)
         Disk inserted = disk;
         inserted.attached = true;
         inserted.state = code::DiskOffline; // online after the next rescan
+        inserted.awaitingRescan = true;
         m.disks.push_back(inserted);
         m.logEvent(event::NewDriveConnected);
         m.logEvent(event::DeviceConnected, {inserted.controller, inserted.port});

@@ -115,9 +115,15 @@ public:
     bool save(std::string &error);
 
     // Write-command handlers, by command code. The command layer installs its own.
+    // A handler gets the request (a copy it may use as scratch) or, for a read code, the
+    // reply buffer that starts as a copy of the request; it answers into the latter.
     using CommandHandler =
-        std::function<CommandResult(Host &, Model &, const std::uint8_t *, std::uint32_t)>;
+        std::function<CommandResult(Host &, Model &, std::uint8_t *, std::uint32_t)>;
     void setCommandHandler(std::uint32_t command, CommandHandler handler);
+
+    // Data a disk command left for the reply read that follows on the same channel.
+    void setPendingReply(std::uint32_t channelId, std::vector<std::uint8_t> data);
+    std::vector<std::uint8_t> takePendingReply(std::uint32_t channelId);
 
     // Configuration images of recent generations, for reads of a previous generation.
     static constexpr std::size_t kGenerationHistory = 8;
@@ -145,6 +151,8 @@ private:
     void recordHistory();
     bool consumeTransferFault(SK_HostIo &io);
     bool consumeRefusal(std::uint32_t &status);
+    void runTasks();
+    void afterMemberLoss(Model &model);
 
     mutable std::recursive_mutex m_mutex;
     Model m_model;
@@ -154,6 +162,9 @@ private:
     std::map<std::uint32_t, Channel> m_channels;
     std::map<std::uint32_t, CommandHandler> m_handlers;
     std::deque<std::pair<std::uint64_t, Model>> m_history;
+    std::map<std::uint32_t, std::vector<std::uint8_t>> m_pendingReplies;
+    std::uint64_t m_taskClockMs = 0;
+    std::uint64_t m_lastProgressSaveMs = 0;
     std::uint64_t m_nextSession = 1;
     std::uint32_t m_nextChannel = 1;
 

@@ -151,6 +151,7 @@ struct Disk
     std::vector<SmartAttribute> smart;
     std::optional<NvmeHealth> nvme;
     std::uint32_t ledState = 0;     // identify / extended LED state
+    bool awaitingRescan = false;    // plugged in; comes online with the next rescan
 
     bool isNvme() const { return (portType & code::PortNvme) != 0; }
 };
@@ -246,6 +247,7 @@ struct HostFacts
     std::vector<DriverFile> drivers;
     std::uint32_t parameterArrayCount = 0;
     std::uint32_t parameterFileCount = 0;
+    std::vector<std::string> disabledLevels; // "RAID6": the drivers refuse to build it
 };
 
 // Faults waiting to strike the next requests. They live in the model so a tool can

@@ -339,6 +339,7 @@ Disk readDisk(Reader &r, const Json &d, const std::string &path)
     disk.firmware = r.text(d, path, "firmware", 8);
     disk.vendor = r.text(d, path, "vendor", 8);
     disk.ledState = r.u32(d, path, "led", 0, 10);
+    disk.awaitingRescan = r.flag(d, path, "awaitingRescan", false);
     readSmart(r, d, path, disk);
     if (disk.id == 0 && !r.failed())
         r.fail(path + ".id", "0 is not a valid disk ID");
@@ -514,6 +515,14 @@ void readHost(Reader &r, const Json &h, const std::string &path, HostFacts &host
             file.version = r.text((*drivers)[i], dp, "version", 64);
             file.loaded = r.flag((*drivers)[i], dp, "loaded", true);
             host.drivers.push_back(file);
+        }
+    }
+    if (const Json *levels = r.list(h, path, "disabledLevels")) {
+        for (std::size_t i = 0; i < levels->size(); ++i) {
+            if (!(*levels)[i].is_string())
+                r.fail(at(path, "disabledLevels", i), "expected a level word");
+            else
+                host.disabledLevels.push_back((*levels)[i].get<std::string>());
         }
     }
     if (const Json *p = r.member(h, path, "parameters", false)) {
@@ -731,6 +740,8 @@ Json diskJson(const Disk &d)
     j["vendor"] = d.vendor;
     if (d.ledState)
         j["led"] = d.ledState;
+    if (d.awaitingRescan)
+        j["awaitingRescan"] = true;
     if (d.smartVersion || !d.smart.empty()) {
         Json attrs = Json::array();
         for (const SmartAttribute &a : d.smart) {
@@ -913,6 +924,7 @@ std::string writeScenario(const Model &model)
                         {"notifierRunning", h.notifierRunning},
                         {"driverBuild", h.driverBuild},
                         {"drivers", drivers},
+                        {"disabledLevels", h.disabledLevels},
                         {"parameters",
                          Json{{"arrayCount", h.parameterArrayCount},
                               {"fileCount", h.parameterFileCount}}}};

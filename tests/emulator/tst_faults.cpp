@@ -18,17 +18,26 @@ std::vector<std::uint16_t> messagesAfter(const Model &m, std::uint32_t number)
     return out;
 }
 
+Model withoutSpares()
+{
+    Model m = defaultScenario();
+    for (Disk &d : m.disks)
+        d.globalSpare = false;
+    return m;
+}
+
 class Faults : public ::testing::Test
 {
 protected:
-    Host host{defaultScenario(), std::make_shared<SK_EmuManualClock>()};
+    std::shared_ptr<SK_EmuManualClock> clock = std::make_shared<SK_EmuManualClock>();
+    Host host{withoutSpares(), clock};
     const Model before = host.model();
     const std::uint32_t lastEvent = before.events.back().number;
     const std::uint64_t ssdA = before.disks[0].id, hdd1 = before.disks[2].id,
                         hdd2 = before.disks[3].id;
 };
 
-TEST_F(Faults, failedMemberDegradesTheMirrorAndIsLogged)
+TEST_F(Faults, failedMemberWithoutASpareLeavesTheMirrorCritical)
 {
     ASSERT_TRUE(host.failDisk(ssdA));
     const Model m = host.model();
@@ -39,6 +48,40 @@ TEST_F(Faults, failedMemberDegradesTheMirrorAndIsLogged)
     EXPECT_EQ(messagesAfter(m, lastEvent), (std::vector<std::uint16_t>{1013, 1015}));
     EXPECT_EQ(m.events[m.events.size() - 2].params[1], 0u); // channel of the SSD
     EXPECT_EQ(m.generation, before.generation + 1);
+}
+
+TEST(Rebuild, failedMemberIsRebuiltOntoTheGlobalSpareUntilNormal)
+{
+    auto clock = std::make_shared<SK_EmuManualClock>();
+    Host host(defaultScenario(), clock);
+    const Model before = host.model();
+    const std::uint64_t failing = before.disks[2].id, spare = before.disks[5].id;
+    const std::uint32_t last = before.events.back().number;
+
+    ASSERT_TRUE(host.failDisk(failing));
+    Model m = host.model();
+    const Array &data = m.arrays[1];
+    EXPECT_EQ(data.state, code::ArrayCritical);
+    EXPECT_EQ(data.layout.members[0].disk, spare);
+    EXPECT_EQ(data.layout.members[0].flags, code::MemberOffline);
+    EXPECT_EQ(data.task.type, code::TaskRestore);
+    EXPECT_FALSE(m.findDisk(spare)->globalSpare);
+    EXPECT_EQ(messagesAfter(m, last), (std::vector<std::uint16_t>{1013, 1015, 1139}));
+
+    // A 4 TB member at 200 MB/s and priority 50 takes about 5.6 hours.
+    clock->advance(3600 * 1000);
+    m = host.model();
+    EXPECT_EQ(m.arrays[1].task.type, code::TaskRestore);
+    EXPECT_GT(m.arrays[1].task.progress, 15000u);
+    EXPECT_LT(m.arrays[1].task.progress, 20000u);
+
+    clock->advance(5 * 3600 * 1000);
+    m = host.model();
+    EXPECT_EQ(m.arrays[1].task.type, code::TaskNone);
+    EXPECT_EQ(m.arrays[1].state, code::ArrayNormal);
+    EXPECT_EQ(m.arrays[1].layout.members[0].flags, 0u);
+    EXPECT_EQ(m.events.back().message, 1018u);
+    EXPECT_EQ(m.generation, before.generation + 2);
 }
 
 TEST_F(Faults, secondLossBeyondParityTakesTheArrayOffline)

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 using namespace sk_emu;
@@ -29,8 +30,14 @@ class TempFolder
 public:
     TempFolder()
     {
-        char pattern[] = "/tmp/skemu-test-XXXXXX";
-        m_path = mkdtemp(pattern);
+        // A folder of our own: creating a name that is already taken fails, so draw again.
+        std::random_device random;
+        std::error_code ec;
+        for (int attempt = 0; attempt < 100; ++attempt) {
+            m_path = fs::temp_directory_path(ec) / ("skemu-test-" + std::to_string(random()));
+            if (fs::create_directory(m_path, ec))
+                break;
+        }
     }
     ~TempFolder()
     {
