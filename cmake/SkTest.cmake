@@ -1,3 +1,13 @@
+# A cross build can't use the build machine's GoogleTest libraries: build it from the
+# sources Debian ships, with the cross compiler, once for all suites.
+set(SK_GTEST_SOURCE_DIR /usr/src/googletest CACHE PATH
+    "GoogleTest sources, built with the project when cross compiling")
+if(CMAKE_CROSSCOMPILING AND SK_BUILD_TESTS AND NOT TARGET GTest::gtest)
+    set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
+    set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+    add_subdirectory(${SK_GTEST_SOURCE_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+endif()
+
 # sk_add_test(name KIND gtest|qtest SOURCES ... [LINKS ...] [TIMEOUT s])
 # One place that registers every test: GUI tests run offscreen, every test has a
 # timeout, and unknown arguments are an error so a typo can't silently drop a test.
@@ -13,7 +23,9 @@ function(sk_add_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} sk_compile_options)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     if(ARG_KIND STREQUAL "gtest")
-        find_package(GTest REQUIRED)
+        if(NOT TARGET GTest::gtest)
+            find_package(GTest REQUIRED)
+        endif()
         target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
         add_test(NAME ${name} COMMAND ${name})
     elseif(ARG_KIND STREQUAL "qtest")

@@ -5,9 +5,10 @@
 #   scripts/bootstrap.sh test      install what is missing, build, run every test
 #   scripts/bootstrap.sh sanitize  the test suite again under ASan and UBSan
 #   scripts/bootstrap.sh fuzz      build the libFuzzer targets with clang, run each briefly
+#   scripts/bootstrap.sh windows   cross build the plain C++ half with MinGW-w64, run its tests under Wine
 #   scripts/bootstrap.sh deps      only install the packages
 #
-# Build folders: build/ (run), build-test/, build-asan/, build-fuzz/.
+# Build folders: build/ (run), build-test/, build-asan/, build-fuzz/, build-windows/.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -22,13 +23,25 @@ packages=(
     clang libclang-rt-dev
 )
 
+# The Windows build of the plain C++ half: MinGW-w64 with POSIX threads (std::mutex and
+# std::thread need them), GoogleTest from its Debian sources, and Wine to run the tests.
+windows_packages=(
+    cmake ninja-build googletest nlohmann-json3-dev
+    g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev
+    wine wine64
+)
+
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+# install_deps [package...]: installs what is missing of the given packages, by
+# default of the Linux build's.
 install_deps() {
+    local wanted=("$@")
+    [ ${#wanted[@]} -gt 0 ] || wanted=("${packages[@]}")
     local missing=()
-    for p in "${packages[@]}"; do
+    for p in "${wanted[@]}"; do
         if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
             missing+=("$p")
         fi
@@ -79,6 +92,34 @@ fuzz_briefly() {
     done
 }
 
+# Wine for the tests: a private prefix inside the build folder so no user's ~/.wine is
+# touched, no debug chatter, no display (the tests are console programs), and no
+# offer to download Mono or Gecko, which nothing here uses.
+wine_env() {
+    export WINEPREFIX="$root/build-windows/wineprefix"
+    export WINEARCH=win64
+    export WINEDEBUG=-all
+    export WINEDLLOVERRIDES="mscoree,mshtml="
+    unset DISPLAY WAYLAND_DISPLAY
+}
+
+windows_build_and_test() {
+    configure_and_build build-windows -DCMAKE_BUILD_TYPE=Debug \
+        -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchain-mingw64.cmake" -DSK_BUILD_GUI=OFF
+    wine_env
+    # Creating the prefix takes a while; do it once up front rather than inside the
+    # first test's time limit.
+    if [ ! -f "$WINEPREFIX/system.reg" ]; then
+        echo "Creating the Wine prefix in $WINEPREFIX"
+        wine wineboot --init >/dev/null 2>&1 || true
+        wineserver -w || true
+    fi
+    local rc=0
+    ctest --test-dir build-windows --output-on-failure --parallel "$jobs" || rc=$?
+    wineserver -k >/dev/null 2>&1 || true
+    return $rc
+}
+
 case "${1:-}" in
 deps) install_deps ;;
 run) install_deps && start_console ;;
@@ -89,8 +130,9 @@ sanitize)
     run_tests build-asan
     ;;
 fuzz) install_deps && fuzz_briefly ;;
+windows) install_deps "${windows_packages[@]}" && windows_build_and_test ;;
 *)
-    sed -n '2,12p' "$0"
+    sed -n '2,13p' "$0"
     exit 2
     ;;
 esac

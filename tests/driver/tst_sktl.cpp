@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <string>
 #include <vector>
 
 namespace {
@@ -47,13 +49,15 @@ TEST(TrackedAllocation, checkRangeAcceptsOnlyRangesInsideOneBlock)
 TEST(TrackedAllocation, reportListsEveryBlockWithItsTag)
 {
     void *block = SKTL_Alloc(512, "SK_Core::SK_GetConfig");
-    char *text = nullptr;
-    std::size_t length = 0;
-    std::FILE *out = open_memstream(&text, &length);
+    std::FILE *out = std::tmpfile();
+    ASSERT_TRUE(out);
     SKTL_ReportAllocations(out);
+    std::rewind(out);
+    std::string report;
+    char chunk[4096];
+    for (std::size_t n; (n = std::fread(chunk, 1, sizeof chunk, out)) > 0;)
+        report.append(chunk, n);
     std::fclose(out);
-    const std::string report(text, length);
-    std::free(text);
     EXPECT_EQ(report.rfind("\n\n***** SKTL_Alloc() allocations\n", 0), 0u);
     char line[128];
     std::snprintf(line, sizeof line, "%p:512 from SK_Core::SK_GetConfig\n", block);
