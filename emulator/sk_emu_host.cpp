@@ -178,7 +178,8 @@ SK_HostIo Host::write(std::uint64_t session, std::uint64_t position, const std::
         io.systemError = SK_SYSERR_INVALID_PARAMETER;
         return io;
     }
-    return acceptWrite(channelIt->second, data, size);
+    // A handle opened for one route borrows the channel of the core's own handle.
+    return acceptWrite(channelIt->second, data, size, channelIt->second.session != session);
 }
 
 SK_HostIo Host::refuse(Channel &channel, std::uint32_t status)
@@ -189,7 +190,8 @@ SK_HostIo Host::refuse(Channel &channel, std::uint32_t status)
     return io;
 }
 
-SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size)
+SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size,
+                            bool viaRoute)
 {
     if (size < proto::SlotSize)
         return refuse(channel, proto::BufferTooSmall);
@@ -214,7 +216,8 @@ SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uin
         saveQuietly();
         return refuse(channel, proto::InvalidGeneration);
     }
-    if (u64(data, proto::Generation) != m_model.generation)
+    // Route handles carry no generation: they address one device, not the configuration.
+    if (!viaRoute && u64(data, proto::Generation) != m_model.generation)
         return refuse(channel, proto::InvalidGeneration);
 
     auto handler = m_handlers.find(command);

@@ -144,7 +144,8 @@ private:
 
     SK_HostIo refuse(Channel &channel, std::uint32_t status);
     SK_HostIo answerRead(Channel &channel, std::uint8_t *data, std::uint32_t size);
-    SK_HostIo acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size);
+    SK_HostIo acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size,
+                          bool viaRoute);
     std::vector<std::uint8_t> replyFor(Channel &channel, std::uint32_t &status);
     void reloadIfChangedOnDisk();
     void saveQuietly();
