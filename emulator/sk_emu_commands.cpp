@@ -798,8 +798,7 @@ CommandResult rescan(Host &, Model &m, std::uint8_t *, std::uint32_t)
     for (Array &a : m.arrays) {
         // Arrays taken offline come back while their disks are still there.
         updateArrayState(m, a);
-        if (a.state == code::ArrayCritical && a.task.type == code::TaskNone)
-            takeSpareForRebuild(m, a);
+        takeSpareForRebuild(m, a);
     }
     return done();
 }
@@ -851,10 +850,8 @@ CommandResult manageSpares(Model &m, const Request &req, Array *array, bool add,
     }
     // A degraded array takes a spare that just became available.
     if (add) {
-        for (Array &a : m.arrays) {
-            if (a.state == code::ArrayCritical && a.task.type == code::TaskNone)
-                takeSpareForRebuild(m, a);
-        }
+        for (Array &a : m.arrays)
+            takeSpareForRebuild(m, a);
     }
     return done();
 }
@@ -1297,9 +1294,21 @@ bool advanceTasks(Model &m, std::uint64_t elapsedMs, bool &progressed)
     return ended;
 }
 
+void failRunningTask(Model &m, Array &a)
+{
+    if (a.task.type == code::TaskNone || a.task.type == code::TaskRestore
+        || a.task.state == code::TaskFailed)
+        return;
+    logTask(m, a, &TaskWords::failed);
+    a.task.state = code::TaskFailed;
+    a.target.reset(); // a transform that can't finish keeps the layout it had
+}
+
 bool takeSpareForRebuild(Model &m, Array &a)
 {
-    if (!isRedundant(a.layout) || a.state != code::ArrayCritical)
+    // A failed task gives way to the rebuild; a running one keeps the array busy.
+    if (!isRedundant(a.layout) || a.state != code::ArrayCritical
+        || (a.task.type != code::TaskNone && a.task.state != code::TaskFailed))
         return false;
     auto lost = std::find_if(a.layout.members.begin(), a.layout.members.end(), [](const Member &mem) {
         return mem.disk == 0 || (mem.flags & (code::MemberFailed | code::MemberOffline

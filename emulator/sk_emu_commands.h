@@ -95,6 +95,9 @@ bool advanceTasks(Model &model, std::uint64_t elapsedMs, bool &progressed);
 // Starts a task on `array` and logs its "initiated" event where the drivers have one.
 void startTask(Model &model, Array &array, std::uint32_t taskType);
 
+// A task that loses a member on the way fails, logged as the catalogue says.
+void failRunningTask(Model &model, Array &array);
+
 // A degraded redundant array takes a dedicated spare, else a fitting global spare, in
 // place of its first lost member and starts rebuilding. False when none fits.
 bool takeSpareForRebuild(Model &model, Array &array);

@@ -62,7 +62,8 @@ Disk sataHdd(std::uint64_t id, std::uint32_t port, const char *model, const char
     d.id = id;
     d.port = port;
     d.capacity = kHdd4TB;
-    d.portType = code::PortSata | code::Port6G | code::PortNcq;
+    // The hard disks sit in the hot-swap bays of the front cage.
+    d.portType = code::PortSata | code::Port6G | code::PortNcq | code::PortRemovable;
     d.features = code::FeatureWriteCache | code::FeatureReadAhead | code::FeatureSmartPolling;
     d.model = model;
     d.serial = serial;

@@ -387,8 +387,9 @@ std::vector<std::uint8_t> Host::takePendingReply(std::uint32_t channelId)
 void Host::afterMemberLoss(Model &model)
 {
     for (Array &array : model.arrays) {
-        if (array.state == code::ArrayCritical && array.task.type == code::TaskNone)
-            takeSpareForRebuild(model, array);
+        if (array.state != code::ArrayNormal)
+            failRunningTask(model, array);
+        takeSpareForRebuild(model, array);
     }
 }
 

@@ -508,3 +508,64 @@ TEST_F(Commands, offlineInitialiseAndDriveLetters)
 }
 
 } // namespace
+
+namespace {
+
+// One administrator's session, step by step, as the image and the event log show it.
+TEST_F(Commands, scriptedSessionShowsEveryStepInTheImageAndTheLog)
+{
+    auto events = [&] {
+        std::vector<std::uint16_t> out;
+        for (const Event &e : scope.host->model().events)
+            out.push_back(e.message);
+        return out;
+    };
+    auto manage = [&](std::uint32_t subcode) {
+        Request r(1024);
+        r.u32(32, subcode).u64(36, 0xA1).u32(44, 1);
+        return write(r, 7);
+    };
+    const std::uint64_t hour = 3600 * 1000;
+
+    ASSERT_EQ(createArray(7157, 1, 3, {0xD00, 0xD01, 0xD02}, 2 * kMemberMiB, 0xA1, 0x1000), 1u);
+    ASSERT_EQ(manage(31904), 1u);
+    scope.clock->advance(hour);
+    EXPECT_EQ(array(0xA1).task.type, code::TaskNone);
+
+    Request grow(8192);
+    grow.u32(32, 7157).u64(36, 0xA1).u32(44, 1).u32(52, 4).u64(64, 3 * kMemberMiB);
+    grow.u32(72, 1).u32(76, 4).disk(156, 0xD00).disk(172, 0xD01).disk(188, 0xD02).disk(204, 0xD03);
+    ASSERT_EQ(write(grow, 8), 1u);
+    scope.clock->advance(hour);
+    EXPECT_EQ(array(0xA1).layout.secondCount, 4u);
+
+    Request spare(1024);
+    spare.u32(32, 31908).u32(52, 1).disk(92, 0xD06);
+    ASSERT_EQ(write(spare, 7), 1u);
+    ASSERT_EQ(manage(31904), 1u);
+    ASSERT_TRUE(scope.host->failDisk(0xD02));
+    EXPECT_EQ(array(0xA1).task.type, code::TaskRestore);
+    scope.clock->advance(hour);
+    EXPECT_EQ(array(0xA1).state, code::ArrayNormal);
+
+    ASSERT_EQ(manage(31918), 1u);
+    scope.clock->advance(hour);
+    Request remove(1536);
+    remove.u32(36, 1).array(40, 0xA1, 1);
+    ASSERT_EQ(write(remove, 3), 1u);
+
+    EXPECT_EQ(events(), (std::vector<std::uint16_t>{
+                            1037,             // created
+                            1141, 1024,       // checked
+                            1140, 1021,       // grown to four disks
+                            1132,             // a global spare
+                            1141, 1013, 1015, // a check, then a member fails
+                            1025, 1139, 1018, // the check fails, the spare is rebuilt
+                            1168,             // secure erase
+                            1014}));          // deleted
+    SK_Core core(".", "Core1", 0);
+    EXPECT_EQ(core.ArrayCount, 0u);
+    EXPECT_EQ(core.DiskCount, 9u);
+}
+
+} // namespace
