@@ -13,9 +13,11 @@ namespace {
 constexpr char kDefaultDelimiters[3] = {'\n', '\r', ' '};
 constexpr const char *kBlockTag = "SK_ParseConfig";
 
+// The last byte of the text area always reads as the end, so that the longest token
+// still fits the token area with its terminator.
 char textAt(const SK_Tokenizer &t, std::uint32_t position)
 {
-    return position < SK_REPORT_TEXT_SIZE ? t.Text[position] : '\0';
+    return position < SK_REPORT_TEXT_SIZE - 1 ? t.Text[position] : '\0';
 }
 
 bool isDelimiter(const SK_Tokenizer &t, char c)
