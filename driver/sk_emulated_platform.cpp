@@ -22,6 +22,12 @@ SK_HostEndpoint::~SK_HostEndpoint() = default;
 
 void SK_HostEndpoint::onSleep(std::uint32_t) {}
 
+std::uint32_t SK_HostEndpoint::control(std::uint64_t, std::uint32_t, const std::uint8_t *,
+                                       std::uint32_t, std::uint8_t *, std::uint32_t)
+{
+    return 1; // ERROR_INVALID_FUNCTION
+}
+
 SK_SystemView &SK_HostEndpoint::system()
 {
     static SK_SystemView nothing;
@@ -109,6 +115,26 @@ std::uint32_t SK_EmulatedPlatform::transfer(bool isRead, SK_Handle handle, void 
         return 1;
     }
     return result;
+}
+
+bool SK_EmulatedPlatform::deviceControl(SK_Handle handle, std::uint32_t controlCode,
+                                        const void *in, std::uint32_t inSize, void *out,
+                                        std::uint32_t outSize, std::uint32_t &error)
+{
+    std::uint64_t session = 0;
+    {
+        std::lock_guard<std::mutex> guard(m_mutex);
+        auto it = m_handles.find(handle);
+        if (it != m_handles.end())
+            session = it->second.session;
+    }
+    if (session == 0) {
+        error = 6; // ERROR_INVALID_HANDLE
+        return false;
+    }
+    error = m_endpoint->control(session, controlCode, static_cast<const std::uint8_t *>(in), inSize,
+                                static_cast<std::uint8_t *>(out), outSize);
+    return error == 0;
 }
 
 void SK_EmulatedPlatform::sleep(std::uint32_t milliseconds)

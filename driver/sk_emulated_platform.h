@@ -39,6 +39,12 @@ public:
     // time pass. The default does nothing.
     virtual void onSleep(std::uint32_t milliseconds);
 
+    // A device control request; returns the system error, 0 for success. The default
+    // takes none.
+    virtual std::uint32_t control(std::uint64_t session, std::uint32_t controlCode,
+                                  const std::uint8_t *in, std::uint32_t inSize, std::uint8_t *out,
+                                  std::uint32_t outSize);
+
     // The volumes, disks and host facts around the device. The default knows of none.
     virtual SK_SystemView &system();
 };
@@ -56,6 +62,9 @@ public:
     std::uint32_t transfer(bool isRead, SK_Handle handle, void *buffer, std::uint64_t position,
                            std::uint32_t size, void *context, SKTL_Callback callback) override;
     void sleep(std::uint32_t milliseconds) override;
+    bool deviceControl(SK_Handle handle, std::uint32_t controlCode, const void *in,
+                       std::uint32_t inSize, void *out, std::uint32_t outSize,
+                       std::uint32_t &error) override;
     SK_SystemView &system() override { return m_endpoint->system(); }
 
     SK_HostEndpoint &endpoint() const { return *m_endpoint; }

@@ -4,6 +4,13 @@
 
 SK_Platform::~SK_Platform() = default;
 
+bool SK_Platform::deviceControl(SK_Handle, std::uint32_t, const void *, std::uint32_t, void *,
+                                std::uint32_t, std::uint32_t &error)
+{
+    error = 1; // ERROR_INVALID_FUNCTION
+    return false;
+}
+
 SK_SystemView &SK_Platform::system()
 {
     static SK_SystemView nothing;

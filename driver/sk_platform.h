@@ -49,6 +49,12 @@ public:
     // An alertable sleep; pending completions may run during it.
     virtual void sleep(std::uint32_t milliseconds) = 0;
 
+    // One device control request on an open handle. False with the system error in
+    // `error` when it fails; the default knows of no device that takes one.
+    virtual bool deviceControl(SK_Handle handle, std::uint32_t controlCode, const void *in,
+                               std::uint32_t inSize, void *out, std::uint32_t outSize,
+                               std::uint32_t &error);
+
     // Volumes, disks and host facts of this system. The default knows of none.
     virtual SK_SystemView &system();
 };

@@ -183,6 +183,13 @@ std::uint32_t SKTL_DeviceTransfer(bool isRead, SK_Handle handle, void *buffer,
                                          callback);
 }
 
+bool SKTL_DeviceControl(SK_Handle handle, std::uint32_t controlCode, void *in,
+                        std::uint32_t inSize, void *out, std::uint32_t outSize,
+                        std::uint32_t &error)
+{
+    return SK_CurrentPlatform().deviceControl(handle, controlCode, in, inSize, out, outSize, error);
+}
+
 void SKTL_Sleep(std::uint32_t milliseconds)
 {
     SK_CurrentPlatform().sleep(milliseconds);

@@ -71,6 +71,11 @@ std::uint32_t SKTL_DeviceTransfer(bool isRead, SK_Handle handle, void *buffer,
                                   std::uint64_t position, std::uint32_t size, void *context,
                                   SKTL_Callback callback);
 
+// One device control request on an open handle; false with the system error on failure.
+bool SKTL_DeviceControl(SK_Handle handle, std::uint32_t controlCode, void *in,
+                        std::uint32_t inSize, void *out, std::uint32_t outSize,
+                        std::uint32_t &error);
+
 // Alertable sleep through the platform.
 void SKTL_Sleep(std::uint32_t milliseconds);
 

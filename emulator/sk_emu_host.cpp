@@ -195,7 +195,10 @@ SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uin
 {
     if (size < proto::SlotSize)
         return refuse(channel, proto::BufferTooSmall);
-    if (std::uint32_t status = 0; consumeRefusal(status))
+    // Refusal faults spare the request for the last status: the reason is always told.
+    const bool asksLastStatus = u32(data, proto::Command) == proto::ReadCommand
+                                && u32(data, proto::ReadCode) == proto::ReadLastStatus;
+    if (std::uint32_t status = 0; !asksLastStatus && consumeRefusal(status))
         return refuse(channel, status);
     if (u32(data, proto::ApiLevel) != 2)
         return refuse(channel, proto::UnsupportedApi);
@@ -317,6 +320,27 @@ std::vector<std::uint8_t> Host::replyFor(Channel &channel, std::uint32_t &status
         return {};
     }
     }
+}
+
+std::uint32_t Host::control(std::uint64_t session, std::uint32_t controlCode,
+                            const std::uint8_t *in, std::uint32_t inSize, std::uint8_t *,
+                            std::uint32_t)
+{
+    constexpr std::uint32_t kInvalidFunction = 1, kInvalidParameter = 87;
+    {
+        std::lock_guard<std::recursive_mutex> guard(m_mutex);
+        if (!m_sessions.count(session))
+            return 6; // ERROR_INVALID_HANDLE
+    }
+    if (controlCode != proto::ControlLogEvent)
+        return kInvalidFunction;
+    if (!in || inSize < proto::LogEventRecordSize || u32(in, 0) != u32(in, 4) || u32(in, 8) != 8)
+        return kInvalidParameter;
+    std::array<std::uint32_t, 8> params{};
+    for (std::size_t i = 0; i < params.size(); ++i)
+        params[i] = u32(in, 12 + 4 * i);
+    injectEvent(static_cast<std::uint16_t>(u32(in, 0) & 0xFFFF), params);
+    return 0;
 }
 
 void Host::onSleep(std::uint32_t milliseconds)

@@ -36,6 +36,10 @@ constexpr std::uint32_t ReadStats = 4103;
 constexpr std::uint32_t ReadStatsReset = 4104;
 constexpr std::uint32_t ReadLastStatus = 4118;
 constexpr std::uint32_t ReplySize = 8192;
+// Device control that writes one event into the driver's log: a 44-byte record of the
+// event code twice, the parameter count (8) and eight parameters.
+constexpr std::uint32_t ControlLogEvent = 0x42003;
+constexpr std::uint32_t LogEventRecordSize = 44;
 
 // Statuses the drivers answer with.
 constexpr std::uint32_t Success = 1;
@@ -79,6 +83,8 @@ public:
     SK_HostIo write(std::uint64_t session, std::uint64_t position, const std::uint8_t *data,
                     std::uint32_t size) override;
     void onSleep(std::uint32_t milliseconds) override;
+    std::uint32_t control(std::uint64_t session, std::uint32_t controlCode, const std::uint8_t *in,
+                          std::uint32_t inSize, std::uint8_t *out, std::uint32_t outSize) override;
     SK_SystemView &system() override;
 
     // --- Model access for tools and tests (changes are saved when a file is attached) ---
