@@ -8,6 +8,9 @@
 
 #include <cstdio>
 
+// The Win32 system view (sk_system_view_win.cpp).
+std::unique_ptr<SK_SystemView> SK_CreateWin32SystemView();
+
 namespace {
 
 struct DispositionAndShare
@@ -48,6 +51,7 @@ struct TransferRecord
     OVERLAPPED overlapped;
     HANDLE event;
     bool done; // set by the completion routine, which runs on this same thread
+    bool abandoned; // the queue call failed; a late completion only marks `done`
     std::uint32_t result;
     void *context;
     SKTL_Callback callback;
@@ -56,6 +60,10 @@ struct TransferRecord
 VOID CALLBACK transferCompleted(DWORD systemError, DWORD bytes, LPOVERLAPPED overlapped)
 {
     auto *record = reinterpret_cast<TransferRecord *>(overlapped);
+    if (record->abandoned) {
+        record->done = true;
+        return;
+    }
     const std::uint32_t result = SKTL_CompletionResult(systemError);
     if (record->callback) {
         record->callback(result, record->context, bytes);
@@ -67,14 +75,26 @@ VOID CALLBACK transferCompleted(DWORD systemError, DWORD bytes, LPOVERLAPPED ove
     SetEvent(record->event);
 }
 
+// A callback whose transfer ended before it could be queued (end of file reported at
+// once) is still told from an alertable wait, as every completion is.
+struct LateCallback
+{
+    SKTL_Callback callback;
+    void *context;
+    std::uint32_t result;
+};
+
+VOID CALLBACK deliverLateCallback(ULONG_PTR parameter)
+{
+    auto *late = reinterpret_cast<LateCallback *>(parameter);
+    late->callback(late->result, late->context, 0);
+    delete late;
+}
+
 class SK_Win32Platform final : public SK_Platform
 {
 public:
-    ~SK_Win32Platform() override
-    {
-        if (m_event)
-            CloseHandle(m_event);
-    }
+    SK_Win32Platform() : m_system(SK_CreateWin32SystemView()) {}
 
     const char *name() const override { return "windows"; }
 
@@ -111,20 +131,19 @@ public:
                                 transferCompleted)
                    : WriteFileEx(toWin32(handle), buffer, size, &record->overlapped,
                                  transferCompleted);
-        if (!queued) {
-            std::printf(isRead ? "Read from file failed, error=%d\n"
-                               : "Write to file failed, error=%d\n",
-                        static_cast<int>(GetLastError()));
-            delete record;
-            return 3;
-        }
+        if (!queued)
+            return notQueued(isRead, record);
         if (callback)
             return 1;
 
         // The completion routine runs as an APC during the alertable wait; other
         // completions may wake the wait first, so wait until this one is done.
-        while (!record->done)
-            WaitForSingleObjectEx(record->event, INFINITE, TRUE);
+        while (!record->done) {
+            if (record->event)
+                WaitForSingleObjectEx(record->event, INFINITE, TRUE);
+            else
+                SleepEx(INFINITE, TRUE); // no event could be made: any APC ends this
+        }
         const std::uint32_t result = record->result;
         delete record;
         return result;
@@ -132,17 +151,51 @@ public:
 
     void sleep(std::uint32_t milliseconds) override { SleepEx(milliseconds, TRUE); }
 
+    SK_SystemView &system() override { return *m_system; }
+
 private:
-    // The one process-wide manual-reset event of synchronous transfers, made on
-    // first use. Callers hold the library lock, so one event serves them all.
-    HANDLE processEvent()
+    // The one process-wide manual-reset event of synchronous transfers, made on first
+    // use and kept until the process ends. A waiter wakes for its own completion
+    // routine whatever the event does, so sharing it costs at most a spare wake-up.
+    static HANDLE processEvent()
     {
-        if (!m_event)
-            m_event = CreateEventA(nullptr, TRUE, FALSE, nullptr);
-        return m_event;
+        static const HANDLE event = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+        return event;
     }
 
-    HANDLE m_event = nullptr;
+    // The system would not queue the transfer. End of file may be reported this way
+    // (a read that starts past the end of a file) and is result 2 like the same news
+    // from a completion; anything else is a refusal, reported and result 3.
+    static std::uint32_t notQueued(bool isRead, TransferRecord *record)
+    {
+        const DWORD error = GetLastError();
+        // Some systems queue the completion routine even for a transfer they report as
+        // failed. Let any such routine run now, while the record still exists; it only
+        // marks the record.
+        record->abandoned = true;
+        SleepEx(0, TRUE);
+        const SKTL_Callback callback = record->callback;
+        void *const context = record->context;
+        delete record;
+
+        if (error == ERROR_HANDLE_EOF) {
+            const std::uint32_t result = SKTL_CompletionResult(SK_SYSERR_HANDLE_EOF);
+            if (!callback)
+                return result;
+            auto *late = new LateCallback{callback, context, result};
+            if (QueueUserAPC(deliverLateCallback, GetCurrentThread(),
+                             reinterpret_cast<ULONG_PTR>(late)))
+                return 1;
+            delete late;
+            return 3;
+        }
+        std::printf(isRead ? "Read from file failed, error=%d\n"
+                           : "Write to file failed, error=%d\n",
+                    static_cast<int>(error));
+        return 3;
+    }
+
+    std::unique_ptr<SK_SystemView> m_system;
 };
 
 } // namespace
