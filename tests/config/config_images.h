@@ -23,22 +23,13 @@ inline void putText(Bytes &b, std::size_t at, const std::string &text, std::size
 struct Disk
 {
     std::uint64_t id = 0x1000;
-    std::uint16_t device = 3;
-    std::uint16_t core = 1;
+    std::uint16_t device = 3, core = 1;
     std::uint64_t capacity = 0x74706db0;
-    std::uint32_t type = 4608;
-    std::uint32_t state = 12288;
-    std::uint32_t spare = 0;
-    std::uint32_t features = 4;
-    std::uint32_t port = 2;
-    std::string firmware = "1.00";
-    std::string model = "ExampleDisk 1TB";
-    std::string serial = "ABC123";
-    char controllerDigit = '0';
-    char channelDigit = '2';
+    std::uint32_t type = 4608, state = 12288, spare = 0, features = 4, port = 2;
+    std::string firmware = "1.00", model = "ExampleDisk 1TB", serial = "ABC123";
+    char controllerDigit = '0', channelDigit = '2';
     std::string inquiry; // replaces model, serial and digits when set (core device)
-    std::uint64_t largest = 0;
-    std::uint64_t total = 0;
+    std::uint64_t largest = 0, total = 0;
     std::string vendor = "EXAMPLE";
 };
 
@@ -74,16 +65,10 @@ inline Bytes diskRecord(const Disk &d, std::size_t length = 256)
 struct Controller
 {
     std::uint64_t id = 0x77;
-    std::string name = "Controller0";
-    std::string bios = "9.3.0-27";
-    std::uint64_t maxArray = 0x100000000ull;
-    std::uint64_t serial = 0x1234;
-    std::uint32_t ports = 8;
-    std::uint16_t vendor = 0x1e5d, device = 0x0a10, subVendor = 0x1e5d, subDevice = 0x0a10;
-    std::uint32_t number = 0;
+    std::string name = "Controller0", bios = "9.3.0-27";
+    std::uint64_t maxArray = 0x100000000ull, serial = 0x1234;
+    std::uint32_t ports = 8, number = 0;
     std::uint64_t controllerId = 0xaabbccdd;
-    std::uint16_t origVendor = 0x1e5d, origDevice = 0x0a01;
-    std::uint32_t location = 5;
 };
 
 inline Bytes controllerRecord(const Controller &c)
@@ -96,23 +81,22 @@ inline Bytes controllerRecord(const Controller &c)
     put64(b, 88, c.maxArray);
     put64(b, 96, c.serial);
     put32(b, 104, c.ports);
-    put16(b, 108, c.vendor);
-    put16(b, 110, c.device);
+    put16(b, 108, 0x1e5d);
+    put16(b, 110, 0x0a10);
     put32(b, 112, c.number);
-    put16(b, 116, c.subVendor);
-    put16(b, 118, c.subDevice);
+    put16(b, 116, 0x1e5d);
+    put16(b, 118, 0x0a10);
     put64(b, 120, c.controllerId);
-    put16(b, 128, c.origVendor);
-    put16(b, 130, c.origDevice);
-    put32(b, 132, c.location);
+    put16(b, 128, 0x1e5d);
+    put16(b, 130, 0x0a01);
+    put32(b, 132, 5);
     return b;
 }
 
 struct Enclosure
 {
     std::uint64_t id = 0x99;
-    std::uint16_t device = 9;
-    std::uint16_t core = 0;
+    std::uint16_t device = 9, core = 0;
     std::string vendor = "EXAMPLE", product = "BACKPLANE", revision = "1.0", serial = "12345678";
 };
 
@@ -134,7 +118,7 @@ struct Member
 {
     std::uint64_t id = 0x1000;
     std::uint16_t device = 3, core = 1;
-    std::uint64_t offset = 0x800, size = 0x74700000, dataOffset = 0x800, dataSize = 0x74700000;
+    std::uint64_t offset = 0x800, size = 0x74700000;
     std::uint32_t flags = 0;
 };
 
@@ -150,24 +134,24 @@ struct Array
     std::uint32_t state = 512, type = 7159, task = 0, taskState = 0;
     std::uint64_t id = 0x1122334455667788ull;
     std::uint16_t device = 1, core = 0;
-    std::uint64_t capacity = 0x74700000, protectStart = 0, generation = 42;
-    std::uint32_t first = 1, second = 1;
-    std::uint32_t protectSize = 0, cache = 0xC0000000u, percent = 0, attributes = 0;
-    std::uint32_t distributed = 0, preferred = 0, priority = 30, references = 0;
+    std::uint64_t capacity = 0x74700000, generation = 42;
+    std::uint32_t first = 1, second = 1, cache = 0xC0000000u, percent = 0, attributes = 0;
     std::string displayName = "Array 1";
-    std::uint64_t copyFrom = 0, copyTo = 0, substitute0 = 0, substitute1 = 0;
-    std::uint32_t cacheTag = 64;
+    std::uint64_t substitute0 = 0, substitute1 = 0;
     std::vector<Member> members{Member{}};
     std::vector<Reference> parents, spares;
-    std::uint32_t padding = 0;           // extra bytes behind the tables
-    long long lengthOverride = -1;       // record length field when >= 0
-    long long countOverride[4] = {-1, -1, -1, -1}; // first, second, parents, spares fields
+    long long lengthOverride = -1;                 // record length field when >= 0
+    long long countOverride[4] = {-1, -1, -1, -1}; // first, second, parents, spares
 };
 
 inline Bytes arrayRecord(const Array &a)
 {
     const std::size_t length = 512 + a.members.size() * 64
-                               + (a.parents.size() + a.spares.size()) * 16 + a.padding;
+                               + (a.parents.size() + a.spares.size()) * 16;
+    auto field = [&](int i, std::size_t actual) {
+        return static_cast<std::uint32_t>(a.countOverride[i] >= 0 ? a.countOverride[i]
+                                                                   : static_cast<long long>(actual));
+    };
     Bytes b(length, 0);
     put32(b, 0, 9661);
     put32(b, 8, a.state);
@@ -178,31 +162,22 @@ inline Bytes arrayRecord(const Array &a)
     put16(b, 52, a.device);
     put16(b, 54, a.core);
     put64(b, 80, a.capacity);
-    put64(b, 88, a.protectStart);
     put64(b, 96, a.generation);
     put32(b, 104, static_cast<std::uint32_t>(a.members.size()));
-    put32(b, 108, a.countOverride[0] >= 0 ? static_cast<std::uint32_t>(a.countOverride[0]) : a.first);
-    put32(b, 112, a.countOverride[1] >= 0 ? static_cast<std::uint32_t>(a.countOverride[1]) : a.second);
-    put32(b, 116, a.countOverride[2] >= 0 ? static_cast<std::uint32_t>(a.countOverride[2])
-                                          : static_cast<std::uint32_t>(a.parents.size()));
-    put32(b, 124, a.protectSize);
+    put32(b, 108, field(0, a.first));
+    put32(b, 112, field(1, a.second));
+    put32(b, 116, field(2, a.parents.size()));
     put32(b, 128, a.cache);
-    put32(b, 140, a.countOverride[3] >= 0 ? static_cast<std::uint32_t>(a.countOverride[3])
-                                          : static_cast<std::uint32_t>(a.spares.size()));
+    put32(b, 140, field(3, a.spares.size()));
     put32(b, 144, a.lengthOverride >= 0 ? static_cast<std::uint32_t>(a.lengthOverride)
                                         : static_cast<std::uint32_t>(length));
     put32(b, 148, a.percent);
     put32(b, 152, a.attributes);
-    put32(b, 160, a.distributed);
-    put32(b, 164, a.preferred);
-    put32(b, 168, a.priority);
+    put32(b, 168, 30); // task priority
     putText(b, 176, a.displayName, 32);
-    put32(b, 208, a.references);
-    put64(b, 212, a.copyFrom);
-    put64(b, 220, a.copyTo);
     put64(b, 252, a.substitute0);
     put64(b, 260, a.substitute1);
-    put32(b, 272, a.cacheTag);
+    put32(b, 272, 64); // cache tag size
     std::size_t at = 512;
     for (const Member &m : a.members) {
         put64(b, at, m.id);
@@ -210,8 +185,8 @@ inline Bytes arrayRecord(const Array &a)
         put16(b, at + 10, m.core);
         put64(b, at + 16, m.offset);
         put64(b, at + 24, m.size);
-        put64(b, at + 32, m.dataOffset);
-        put64(b, at + 40, m.dataSize);
+        put64(b, at + 32, m.offset);
+        put64(b, at + 40, m.size);
         put32(b, at + 48, m.flags);
         at += 64;
     }
@@ -242,9 +217,8 @@ public:
     }
     Image &word(std::uint32_t value)
     {
-        const std::size_t at = m_bytes.size();
-        m_bytes.resize(at + 4);
-        put32(m_bytes, at, value);
+        m_bytes.resize(m_bytes.size() + 4);
+        put32(m_bytes, m_bytes.size() - 4, value);
         return *this;
     }
     const Bytes &bytes() const { return m_bytes; }
@@ -259,13 +233,22 @@ inline Bytes coreDevice(const std::string &build = "Build-9.3.0-27")
 {
     Disk d;
     d.id = 1;
-    d.device = 0;
-    d.core = 0;
+    d.device = d.core = 0;
     d.type = 4609;
     d.inquiry = build;
     d.firmware.clear();
     d.vendor.clear();
     return diskRecord(d);
+}
+
+// Turns a case description into a test name.
+inline std::string caseName(std::string text)
+{
+    for (char &c : text) {
+        if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9')))
+            c = '_';
+    }
+    return text;
 }
 
 } // namespace images
