@@ -151,6 +151,29 @@ public:
 
     void sleep(std::uint32_t milliseconds) override { SleepEx(milliseconds, TRUE); }
 
+    bool deviceControl(SK_Handle handle, std::uint32_t controlCode, const void *in,
+                       std::uint32_t inSize, void *out, std::uint32_t outSize,
+                       std::uint32_t &error) override
+    {
+        // Handles of this layer are opened for overlapped work, where the system wants
+        // an OVERLAPPED record with every request; the request is waited for here, on
+        // an event of its own so that no transfer's wait is disturbed.
+        OVERLAPPED overlapped{};
+        overlapped.hEvent = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+        if (!overlapped.hEvent) {
+            error = GetLastError();
+            return false;
+        }
+        DWORD bytes = 0;
+        BOOL done = DeviceIoControl(toWin32(handle), controlCode, const_cast<void *>(in), inSize,
+                                    out, outSize, &bytes, &overlapped);
+        if (!done && GetLastError() == ERROR_IO_PENDING)
+            done = GetOverlappedResult(toWin32(handle), &overlapped, &bytes, TRUE);
+        error = done ? 0 : GetLastError();
+        CloseHandle(overlapped.hEvent);
+        return done != FALSE;
+    }
+
     SK_SystemView &system() override { return *m_system; }
 
 private:

@@ -370,6 +370,23 @@ TEST_F(Win32Transfer, aWaitingTransferLetsOtherCompletionsRunAndStillGetsItsOwnR
     SKTL_DeviceClose(handle);
 }
 
+TEST_F(Win32Transfer, controlRequestsReachTheSystemThroughAnOverlappedHandle)
+{
+    const SK_Handle handle = open(kOpenCreateAlwaysShared, 1);
+    ASSERT_NE(handle, 0u);
+    std::uint32_t error = 12345;
+    EXPECT_TRUE(SKTL_DeviceControl(handle, FSCTL_SET_SPARSE, nullptr, 0, nullptr, 0, error));
+    EXPECT_EQ(error, 0u);
+
+    // A request that no file takes fails with the system's reason.
+    std::uint8_t reply[64] = {};
+    EXPECT_FALSE(SKTL_DeviceControl(handle, CTL_CODE(FILE_DEVICE_UNKNOWN, 0xABC, METHOD_BUFFERED,
+                                                     FILE_ANY_ACCESS),
+                                    nullptr, 0, reply, sizeof reply, error));
+    EXPECT_NE(error, 0u);
+    SKTL_DeviceClose(handle);
+}
+
 TEST_F(Win32Transfer, pathsOfTheDriverGrammarNameDevicesThatAreNotHere)
 {
     // No RAID driver here: the control device and a route device can't be opened.
