@@ -1,6 +1,7 @@
 #include "emulator/sk_emu_model.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace sk_emu {
 
@@ -63,7 +64,8 @@ void Model::logEvent(std::uint16_t message, std::initializer_list<std::uint32_t>
     events.push_back(event);
     const std::size_t capacity = std::max<std::uint32_t>(eventCapacity, 1);
     if (events.size() > capacity)
-        events.erase(events.begin(), events.begin() + static_cast<long>(events.size() - capacity));
+        events.erase(events.begin(),
+                     events.begin() + static_cast<std::ptrdiff_t>(events.size() - capacity));
 }
 
 std::vector<Extent> freeExtents(const Model &model, const Disk &disk)
