@@ -149,15 +149,15 @@ Model defaultScenario()
     h.computerName = "WS-ENG-0417";
     h.elevated = true;
     h.systemDrive = 'C';
-    h.driverBuild = "SKRAID 9.0.0.1182 built 2026-03-14";
+    h.driverBuild = "SKRAID-9.0.0.1182";
     h.drivers = {{"skraid.sys", "9.0.0.1182", true},
                  {"skcfg.sys", "9.0.0.1182", true},
                  {"skbottom.sys", "9.0.0.1182", true}};
 
     Controller c;
     c.id = 0x564F520000A10001ull;
-    c.name = "VOR SATA RAID";
-    c.biosBuild = "VOR RAID BIOS 9.0.0.1182";
+    c.name = "VOR-SATA-RAID";
+    c.biosBuild = "9.0.0.1182";
     c.maxArraySectors = 0xFFFFFFFFFFull;
     c.serial = 0x00000000A7C31D04ull;
     c.ports = 8;

@@ -170,6 +170,17 @@ public:
         return static_cast<std::uint32_t>(number(o, p, k, fallback, max, required));
     }
 
+    // The drivers report some texts as one word; a blank would split them in the
+    // configuration report the console reads.
+    std::string oneWord(const Json &object, const std::string &path, const char *key,
+                     std::size_t maxLength)
+    {
+        std::string value = text(object, path, key, maxLength);
+        if (value.find_first_of(" \t") != std::string::npos)
+            fail(join(path, key), "must be one word without blanks");
+        return value;
+    }
+
     std::string text(const Json &object, const std::string &path, const char *key,
                      std::size_t maxLength, bool required = false)
     {
@@ -506,7 +517,7 @@ void readHost(Reader &r, const Json &h, const std::string &path, HostFacts &host
     host.elevated = r.flag(h, path, "elevated", true);
     host.systemDrive = driveLetter(r, h, path, "systemDrive", 'C');
     host.notifierRunning = r.flag(h, path, "notifierRunning", false);
-    host.driverBuild = r.text(h, path, "driverBuild", 64);
+    host.driverBuild = r.oneWord(h, path, "driverBuild", 64);
     if (const Json *drivers = r.list(h, path, "drivers")) {
         for (std::size_t i = 0; i < drivers->size(); ++i) {
             const std::string dp = at(path, "drivers", i);
@@ -535,8 +546,8 @@ Controller readController(Reader &r, const Json &c, const std::string &path)
 {
     Controller controller;
     controller.id = r.number(c, path, "id", 0, ~0ull, true);
-    controller.name = r.text(c, path, "name", 16);
-    controller.biosBuild = r.text(c, path, "biosBuild", 32);
+    controller.name = r.oneWord(c, path, "name", 16);
+    controller.biosBuild = r.oneWord(c, path, "biosBuild", 32);
     controller.maxArraySectors = r.number(c, path, "maxArraySectors", 0, ~0ull);
     controller.serial = r.number(c, path, "serial", 0, ~0ull);
     controller.ports = r.u32(c, path, "ports", 0, 255);

@@ -152,7 +152,7 @@ TEST(UserMessages, readAndParseRoundTripKeepsNegativeParameters)
 {
     EmulatedHostScope scope;
     scope.host->injectEvent(1014, {0xFFFFFFF9u, 2, 0, 0, 0, 0, 0, 0xFFFFFFFFu});
-    const Read read = readAt(19, 5);
+    const Read read = readAt(19, 0);
     ASSERT_EQ(read.status, 53u);
     EXPECT_NE(read.line.find(L"(-7)(2)(0)(0)(0)(0)(0)(-1)"), std::wstring::npos);
 
