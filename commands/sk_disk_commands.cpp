@@ -1,0 +1,470 @@
+#include "commands/sk_disk_commands.h"
+
+#include "commands/sk_lifecycle.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// Fields of the disk command (29).
+namespace disk {
+constexpr std::size_t Subcode = 32, Count = 36, References = 40;
+} // namespace disk
+
+// Disks that "all" means: plain, unknown and legacy disks, never a core's own entry.
+bool isManagedDisk(const SK_C_PhysicalDevice &d)
+{
+    return d.DeviceType == SK_DEVICE_TYPE_DISK || d.DeviceType == SK_DEVICE_TYPE_UNKNOWN
+           || d.DeviceType == SK_DEVICE_TYPE_LEGACY;
+}
+
+std::vector<const SK_C_PhysicalDevice *> managedDisks(const SK_Core &open)
+{
+    std::vector<const SK_C_PhysicalDevice *> disks;
+    for (std::uint32_t i = 0; open.Disks && i < open.DiskCount; ++i) {
+        if (open.Disks[i] && isManagedDisk(*open.Disks[i]))
+            disks.push_back(open.Disks[i]);
+    }
+    return disks;
+}
+
+std::uint32_t checkDiskListArguments(const SK_CoreEntry *core, std::uint32_t count,
+                                     const SK_DeviceName *list, std::uint32_t all)
+{
+    if (!core || (count == 0 && !all))
+        return SKTL_STS_INVALID_PARAMETER;
+    if (all)
+        return SK_STS_SUCCESS;
+    if (!list)
+        return SKTL_STS_INVALID_PARAMETER;
+    return SK_CheckDiskList(core, list, count);
+}
+
+// Runs `send(entry)` for `core`, or with `allCores` for each core the enumeration
+// finds (a block of one entry: only one core exists). Stops at the first failure.
+template <class Send>
+std::uint32_t forCores(const SK_CoreEntry *core, std::uint32_t allCores, const char *tag,
+                       Send &&send)
+{
+    if (!allCores)
+        return send(core);
+    auto *entries = static_cast<SK_CoreEntry *>(SKTL_Alloc(sizeof(SK_CoreEntry), tag));
+    if (!entries)
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint32_t found = 0;
+    std::uint32_t status = SK_ApiGetCoreList(entries, sizeof(SK_CoreEntry), &found);
+    if (status == SK_STS_SUCCESS && found == 0)
+        status = SK_STS_INVALID_CORE_HANDLE;
+    for (std::uint32_t i = 0; status == SK_STS_SUCCESS && i < found; ++i)
+        status = send(&entries[i]);
+    SKTL_Free(entries);
+    return status;
+}
+
+std::uint32_t roundUp512(std::uint32_t size)
+{
+    return (size + 511u) & ~511u;
+}
+
+// Shared by both directions: the request, the transfer and the device status.
+std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint32_t mode,
+                          SK_PassThrough *descriptor, std::uint8_t *readInto,
+                          const std::uint8_t *writeFrom, std::uint32_t size,
+                          std::uint32_t *statusOut, const char *tag)
+{
+    const bool isRead = readInto != nullptr;
+    if (!core || !name || !descriptor || (size != 0 && !readInto && !writeFrom))
+        return SKTL_STS_INVALID_PARAMETER;
+    if (size > (isRead ? SK_PASS_THROUGH_READ_MAX : SK_PASS_THROUGH_WRITE_MAX))
+        return SKTL_STS_INVALID_BUFFER;
+
+    const auto *body = reinterpret_cast<const std::uint8_t *>(descriptor);
+    std::size_t blockSize = 0;
+    std::size_t lengthAt = 0;
+    switch (descriptor->Kind) {
+    case 1:
+        blockSize = 96;
+        lengthAt = 100;
+        break;
+    case 2:
+        blockSize = 16;
+        lengthAt = 20;
+        break;
+    case 3:
+        blockSize = 48;
+        lengthAt = 52;
+        break;
+    default:
+        return SKTL_STS_INVALID_PARAMETER;
+    }
+    std::uint32_t status = SK_CheckDiskName(core, name);
+    if (status != SK_STS_SUCCESS)
+        return status;
+
+    const std::uint32_t bufferSize =
+        roundUp512(std::max(size + SK_PASS_THROUGH_DATA_AT, SK_READ_REPLY_SIZE));
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(bufferSize, tag);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+    bool readMade = false;
+    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        std::memset(r, 0, request.size());
+        const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, name);
+        if (!disk)
+            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+        SK_PutU32(r, SK_HDR_OPTION, 1);
+        SK_PutU64(r, 36, disk->ID);
+        SK_PutU16(r, 44, disk->DeviceRoute);
+        SK_PutU16(r, 46, disk->CoreRoute);
+        std::memcpy(r + 52, body + 4, blockSize);
+        SK_PutU32(r, 148, SK_GetU32(body, lengthAt));
+        SK_PutU32(r, 152, size);
+        SK_PutU32(r, 156, mode);
+        SK_PutU32(r, 160, SK_PASS_THROUGH_DATA_AT);
+        if (descriptor->Kind == 3)
+            r[164] = body[4];
+        if (!isRead && size != 0)
+            std::memcpy(r + SK_PASS_THROUGH_DATA_AT, writeFrom, size);
+        readMade = true;
+        return open.SK_ConfigRead(r, bufferSize,
+                                  isRead ? SK_READ_PASS_THROUGH_READ : SK_READ_PASS_THROUGH_WRITE,
+                                  0);
+    });
+    if (!readMade)
+        return status;
+    if (statusOut) {
+        statusOut[0] = SK_GetU32(r, 0);
+        statusOut[1] = SK_GetU32(r, 4);
+    }
+    if (descriptor->Kind == 3) {
+        // The driver answers the block in place; its last 16 bytes carry the completion.
+        std::memcpy(reinterpret_cast<std::uint8_t *>(descriptor) + 40, r + 52 + 36, 16);
+    }
+    if (status == SK_STS_SUCCESS && isRead && size != 0)
+        std::memcpy(readInto, r + SK_PASS_THROUGH_DATA_AT, size);
+    return status;
+}
+
+} // namespace
+
+std::uint32_t SK_ApiManagePhysicalDevice(const SK_CoreEntry *core, std::uint32_t count,
+                                         const SK_DeviceName *list, std::uint32_t all,
+                                         std::uint32_t subcode, std::uint32_t option)
+{
+    std::uint32_t status = checkDiskListArguments(core, count, list, all);
+    if (status != SK_STS_SUCCESS)
+        return status;
+
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(SK_ListRequestSize(1), __func__);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+
+    std::vector<std::uint64_t> everyDisk;
+    if (all) {
+        SK_Core open(core->BusName, core->CoreName, 0);
+        if (open.Handle == 0)
+            return SK_STS_INVALID_CORE_HANDLE;
+        for (const SK_C_PhysicalDevice *d : managedDisks(open))
+            everyDisk.push_back(d->ID);
+    }
+    const std::size_t targets = all ? everyDisk.size() : count;
+    // Each disk is its own request on a fresh core: a setting raises the generation,
+    // so the next disk's request must quote the new one.
+    for (std::size_t i = 0; i < targets; ++i) {
+        status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+            std::memset(r, 0, request.size());
+            const SK_C_PhysicalDevice *d =
+                all ? SK_LookupDiskById(open, everyDisk[i]) : SK_LookupDisk(open, list[i]);
+            if (!d)
+                return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            SK_PutU32(r, disk::Subcode, subcode);
+            SK_PutU32(r, disk::Count, 1);
+            SK_PutDiskReference(r, disk::References, *d);
+            return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
+                                       SK_CMD_MANAGE_DISK);
+        });
+        if (status != SK_STS_SUCCESS)
+            return status;
+    }
+    return SK_STS_SUCCESS;
+}
+
+std::uint32_t SK_ApiManagePhysicalDeviceBuf(const SK_CoreEntry *core, std::uint32_t count,
+                                            const SK_DeviceName *list, std::uint32_t,
+                                            std::uint32_t subcode, std::uint8_t *replyBuffer,
+                                            std::uint32_t replySize, std::uint32_t,
+                                            std::uint32_t option)
+{
+    if (!core || !list || count != 1)
+        return SKTL_STS_INVALID_PARAMETER;
+    std::uint32_t status = SK_CheckDiskName(core, list[0]);
+    if (status != SK_STS_SUCCESS)
+        return status;
+
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(SK_DISK_REQUEST_SIZE, __func__);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        std::memset(r, 0, request.size());
+        const SK_C_PhysicalDevice *d = SK_LookupDisk(open, list[0]);
+        if (!d)
+            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+        SK_PutU32(r, SK_HDR_OPTION, option);
+        SK_PutU32(r, disk::Subcode, subcode);
+        SK_PutU32(r, disk::Count, 1);
+        SK_PutDiskReference(r, disk::References, *d);
+        const std::uint32_t sent = open.SK_ConfigWrite(r, SK_DISK_REQUEST_SIZE, SK_CMD_MANAGE_DISK);
+        if (sent != SK_STS_SUCCESS)
+            return sent;
+        // The driver keeps the reply for the channel that asked, so it is read on the
+        // same core before the channel closes.
+        if (subcode < SK_DISK_REPLY_FIRST || subcode > SK_DISK_SMART_ATA || !replyBuffer)
+            return SKTL_STS_INVALID_PARAMETER;
+        return open.SK_ConfigRead(replyBuffer, replySize, SK_READ_DISK_REPLY, 0);
+    });
+}
+
+std::uint32_t SK_ApiDirectManagePhysicalDevice(const SK_CoreEntry *core, std::uint32_t count,
+                                               const SK_DeviceName *list, std::uint32_t all,
+                                               std::uint32_t subcode, std::uint32_t option)
+{
+    if (!core || (!list && !all))
+        return SKTL_STS_INVALID_PARAMETER;
+    if (!all) {
+        const std::uint32_t status = SK_CheckDiskList(core, list, count);
+        if (status != SK_STS_SUCCESS)
+            return status;
+    }
+
+    SKTL_LockGuard lock;
+    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        std::vector<const SK_C_PhysicalDevice *> disks;
+        if (all) {
+            disks = managedDisks(open);
+        } else {
+            for (std::uint32_t i = 0; i < count; ++i) {
+                const SK_C_PhysicalDevice *d = SK_LookupDisk(open, list[i]);
+                if (!d)
+                    return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+                disks.push_back(d);
+            }
+        }
+        const auto n = static_cast<std::uint32_t>(disks.size());
+        SKTL_AlignedBuffer request(SK_ListRequestSize(n), "SK_ApiDirectManagePhysicalDevice");
+        if (!request.ok())
+            return SK_STS_NO_MEMORY_AVAILABLE;
+        std::uint8_t *r = request.data();
+        SK_PutU32(r, SK_HDR_OPTION, option);
+        SK_PutU32(r, disk::Subcode, subcode);
+        SK_PutU32(r, disk::Count, n);
+        for (std::uint32_t i = 0; i < n; ++i)
+            SK_PutDiskReference(r, disk::References + i * SK_REFERENCE_SIZE, *disks[i]);
+        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
+                                   SK_CMD_MANAGE_DISK);
+    });
+}
+
+std::uint32_t SK_ApiManageSpare(const SK_CoreEntry *core, const char *arrayName,
+                                std::uint32_t count, const SK_DeviceName *list,
+                                std::uint32_t add, std::uint32_t global, std::uint32_t option)
+{
+    if (!core || (count != 0 && !list) || (global != 1 && !arrayName))
+        return SKTL_STS_INVALID_PARAMETER;
+    std::uint32_t status = SK_STS_SUCCESS;
+    if (global != 1) {
+        status = SK_CheckArrayName(core, arrayName);
+        if (status != SK_STS_SUCCESS)
+            return status;
+    }
+    status = SK_CheckDiskList(core, list, count);
+    if (status != SK_STS_SUCCESS)
+        return status;
+    const bool adding = add && count > 0;
+    const std::uint32_t subcode =
+        global == 1 ? (adding ? SK_MANAGE_GLOBAL_SPARE_ADD : SK_MANAGE_GLOBAL_SPARE_REMOVE)
+                    : (adding ? SK_MANAGE_DEDICATED_SPARE_ADD : SK_MANAGE_DEDICATED_SPARE_REMOVE);
+
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(SK_ListRequestSize(count), __func__);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        std::memset(r, 0, request.size());
+        SK_PutU32(r, SK_HDR_OPTION, option);
+        SK_PutU32(r, 32, subcode);
+        if (global != 1) {
+            const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
+            if (!array)
+                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
+            SK_PutU64(r, 36, array->ID);
+            SK_PutU16(r, 44, array->DeviceRoute);
+            SK_PutU16(r, 46, array->CoreRoute);
+        }
+        SK_PutU32(r, 52, count);
+        const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, 92);
+        if (resolved != SK_STS_SUCCESS)
+            return resolved;
+        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
+                                   SK_CMD_MANAGE_ARRAY);
+    });
+}
+
+std::uint32_t SK_ApiInitializePhysicalDevice(const SK_CoreEntry *core, std::uint32_t count,
+                                             const SK_DeviceName *list, std::uint32_t all,
+                                             std::uint32_t mode, std::uint32_t option)
+{
+    const std::uint32_t status = checkDiskListArguments(core, count, list, all);
+    if (status != SK_STS_SUCCESS)
+        return status;
+
+    SKTL_LockGuard lock;
+    // A disk can't be wiped under an array: every array of the core goes first. What
+    // can't be deleted the driver refuses to wipe, so the verdict is the initialise's.
+    if (all)
+        SK_ApiDeleteLogicalDevice(core, 0, nullptr, 1, 0, option);
+    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        const std::uint32_t n = all ? open.DiskCount : count;
+        SKTL_AlignedBuffer request(SK_PaddedListRequestSize(n), "SK_ApiInitializePhysicalDevice");
+        if (!request.ok())
+            return SK_STS_NO_MEMORY_AVAILABLE;
+        std::uint8_t *r = request.data();
+        std::uint32_t written = 0;
+        if (all) {
+            for (std::uint32_t i = 0; open.Disks && i < open.DiskCount; ++i) {
+                if (open.Disks[i])
+                    SK_PutDiskReference(r, 44 + (written++) * SK_REFERENCE_SIZE, *open.Disks[i]);
+            }
+        } else {
+            const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, 44);
+            if (resolved != SK_STS_SUCCESS)
+                return resolved;
+            written = count;
+        }
+        SK_PutU32(r, SK_HDR_OPTION, option);
+        SK_PutU32(r, 32, all);
+        SK_PutU32(r, 36, written);
+        SK_PutU32(r, 40, mode);
+        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
+                                   SK_CMD_INITIALIZE);
+    });
+}
+
+std::uint32_t SK_ApiRescan(const SK_CoreEntry *core, std::uint32_t allCores,
+                           std::uint32_t option)
+{
+    if (!core)
+        return SKTL_STS_INVALID_PARAMETER;
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+    return forCores(core, allCores, __func__, [&](const SK_CoreEntry *entry) {
+        return SK_WithFreshCore(entry, [&](SK_Core &open) -> std::uint32_t {
+            std::memset(r, 0, request.size());
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_RESCAN);
+        });
+    });
+}
+
+std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores, std::uint32_t,
+                         std::uint32_t on)
+{
+    if (!core)
+        return SKTL_STS_INVALID_PARAMETER;
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+    return forCores(core, allCores, __func__, [&](const SK_CoreEntry *entry) -> std::uint32_t {
+        SK_Core open(entry->BusName, entry->CoreName, 0);
+        if (open.Handle == 0)
+            return SK_STS_INVALID_CORE_HANDLE;
+        std::memset(r, 0, request.size());
+        SK_PutU32(r, 32, on);
+        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, on ? SK_CMD_BUZZ_ON : SK_CMD_BUZZ_OFF);
+    });
+}
+
+std::uint32_t SK_ApiPhysicalDevicePassThroughRead(const SK_CoreEntry *core, const char *name,
+                                                  std::uint32_t mode,
+                                                  SK_PassThrough *descriptor,
+                                                  std::uint8_t *data, std::uint32_t size,
+                                                  std::uint32_t *statusOut)
+{
+    if (!data)
+        return SKTL_STS_INVALID_PARAMETER;
+    return passThrough(core, name, mode, descriptor, data, nullptr, size, statusOut, __func__);
+}
+
+std::uint32_t SK_ApiPhysicalDevicePassThroughWrite(const SK_CoreEntry *core, const char *name,
+                                                   std::uint32_t mode,
+                                                   SK_PassThrough *descriptor,
+                                                   const std::uint8_t *data, std::uint32_t size,
+                                                   std::uint32_t *statusOut)
+{
+    if (!data && size != 0)
+        return SKTL_STS_INVALID_PARAMETER;
+    static const std::uint8_t nothing[1] = {};
+    return passThrough(core, name, mode, descriptor, nullptr, data ? data : nothing, size,
+                       statusOut, __func__);
+}
+
+std::uint32_t SK_ApiReadDiskMetaData(const SK_CoreEntry *core, const char *name,
+                                     std::uint8_t *buffer, std::uint64_t sector,
+                                     std::uint32_t size, std::uint32_t option)
+{
+    if (!core || !name || !buffer)
+        return SKTL_STS_INVALID_PARAMETER;
+    if (size > SK_METADATA_READ_MAX)
+        return SKTL_STS_INVALID_BUFFER;
+    std::uint32_t status = SK_CheckDiskName(core, name);
+    if (status != SK_STS_SUCCESS)
+        return status;
+
+    // Every read sends 8192 bytes first, so the block is never smaller.
+    const std::uint32_t replySize = roundUp512(std::max(size, 1u));
+    const std::uint32_t bufferSize = std::max(replySize, SK_READ_REPLY_SIZE);
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(bufferSize, __func__);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    std::uint8_t *r = request.data();
+    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        std::memset(r, 0, request.size());
+        const SK_C_PhysicalDevice *d = SK_LookupDisk(open, name);
+        if (!d)
+            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+        SK_PutU32(r, SK_HDR_OPTION, option);
+        SK_PutU64(r, 36, d->ID);
+        SK_PutU16(r, 44, d->DeviceRoute);
+        SK_PutU16(r, 46, d->CoreRoute);
+        SK_PutU64(r, 52, sector);
+        SK_PutU32(r, 60, size / 512);
+        return open.SK_ConfigRead(r, replySize, SK_READ_METADATA, 0);
+    });
+    if (status == SK_STS_SUCCESS)
+        std::memcpy(buffer, r, size);
+    return status;
+}
+
+std::uint32_t SK_IsValidMetaDataHeader(const std::uint8_t *data, std::uint32_t size)
+{
+    if (!data || size < 12)
+        return 0;
+    const std::uint32_t a = SK_GetU32(data, 0), b = SK_GetU32(data, 4), c = SK_GetU32(data, 8);
+    const bool formE = a == 0x5AEAA55Au && b == 0xA55AEAA5u && c == 0x5AA55AEAu;
+    const bool formF = a == 0x5AFAA55Au && b == 0xA55AFAA5u && c == 0x5AA55AFAu;
+    return formE || formF ? 1 : 0;
+}
