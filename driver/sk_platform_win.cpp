@@ -50,7 +50,7 @@ struct TransferRecord
 {
     OVERLAPPED overlapped;
     HANDLE event;
-    bool done; // set by the completion routine, which runs on this same thread
+    bool done;      // set by the completion routine, which runs on this same thread
     bool abandoned; // the queue call failed; a late completion only marks `done`
     std::uint32_t result;
     void *context;
@@ -126,11 +126,10 @@ public:
             ResetEvent(record->event);
         }
 
-        const BOOL queued =
-            isRead ? ReadFileEx(toWin32(handle), buffer, size, &record->overlapped,
-                                transferCompleted)
-                   : WriteFileEx(toWin32(handle), buffer, size, &record->overlapped,
-                                 transferCompleted);
+        const BOOL queued = isRead ? ReadFileEx(toWin32(handle), buffer, size, &record->overlapped,
+                                                transferCompleted)
+                                   : WriteFileEx(toWin32(handle), buffer, size, &record->overlapped,
+                                                 transferCompleted);
         if (!queued)
             return notQueued(isRead, record);
         if (callback)

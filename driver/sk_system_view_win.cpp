@@ -130,10 +130,10 @@ bool inquiryDataShowsConfiguration(const std::uint8_t *data, std::size_t length)
             break;
         std::size_t record = SK_GetU32(data, busAt + offsetof(SCSI_BUS_DATA, InquiryDataOffset));
         // Records are chained forward; a chain that doesn't move forward is broken.
-        while (record != 0 && record + kRecordVendorOffset + kConfigurationIdentityLength <= length) {
+        while (record != 0 &&
+               record + kRecordVendorOffset + kConfigurationIdentityLength <= length) {
             if (std::memcmp(data + record + kRecordVendorOffset, kConfigurationIdentity,
-                            kConfigurationIdentityLength)
-                == 0)
+                            kConfigurationIdentityLength) == 0)
                 return true;
             const std::size_t next =
                 SK_GetU32(data, record + offsetof(SCSI_INQUIRY_DATA, NextInquiryDataOffset));
@@ -159,8 +159,8 @@ std::uint32_t raidPorts(std::vector<int> &ports)
         bool answered = false;
         for (int attempt = 0; attempt < kInquiryDataTries && !answered; ++attempt) {
             std::memset(data, 0, sizeof data);
-            answered = DeviceIoControl(handle.get(), IOCTL_SCSI_GET_INQUIRY_DATA, nullptr, 0,
-                                       data, sizeof data, &returned, nullptr);
+            answered = DeviceIoControl(handle.get(), IOCTL_SCSI_GET_INQUIRY_DATA, nullptr, 0, data,
+                                       sizeof data, &returned, nullptr);
         }
         if (!answered) {
             std::printf("Error on IOCTL_SCSI_GET_INQUIRY_DATA\n %d",
@@ -185,8 +185,8 @@ bool scsiAddressOfDisk(int diskNumber, SCSI_ADDRESS &address)
         return false;
     std::memset(&address, 0, sizeof address);
     DWORD returned = 0;
-    return DeviceIoControl(disk.get(), IOCTL_SCSI_GET_ADDRESS, nullptr, 0, &address,
-                           sizeof address, &returned, nullptr);
+    return DeviceIoControl(disk.get(), IOCTL_SCSI_GET_ADDRESS, nullptr, 0, &address, sizeof address,
+                           &returned, nullptr);
 }
 
 // Asks the device at `address` behind `port` who it is; an array of the RAID stack
@@ -212,8 +212,8 @@ bool inquireArrayRoute(HANDLE port, const SCSI_ADDRESS &address, std::uint32_t &
     request.Cdb[4] = sizeof block.reply;
 
     DWORD returned = 0;
-    if (!DeviceIoControl(port, IOCTL_SCSI_PASS_THROUGH, &block, sizeof block, &block,
-                         sizeof block, &returned, nullptr))
+    if (!DeviceIoControl(port, IOCTL_SCSI_PASS_THROUGH, &block, sizeof block, &block, sizeof block,
+                         &returned, nullptr))
         return false;
     if (std::memcmp(block.reply, kArrayIdentity, kArrayIdentityLength) != 0)
         return false;
@@ -319,9 +319,9 @@ private:
 // commonly use.
 std::vector<std::pair<std::string, std::string>> versionStrings(const std::string &path)
 {
-    static const char *const names[] = {"ProductName",    "FileDescription", "FileVersion",
-                                        "InternalName",   "CompanyName",     "LegalCopyright",
-                                        "OriginalFilename", "ProductVersion", "Product Version"};
+    static const char *const names[] = {"ProductName",      "FileDescription", "FileVersion",
+                                        "InternalName",     "CompanyName",     "LegalCopyright",
+                                        "OriginalFilename", "ProductVersion",  "Product Version"};
     std::vector<std::pair<std::string, std::string>> strings;
     for (const char *name : names)
         strings.emplace_back(name, std::string());
@@ -338,11 +338,11 @@ std::vector<std::pair<std::string, std::string>> versionStrings(const std::strin
     void *translation = nullptr;
     UINT translationLength = 0;
     if (VerQueryValueA(info.data(), "\\VarFileInfo\\Translation", &translation,
-                       &translationLength)
-        && translation && translationLength >= 4) {
+                       &translationLength) &&
+        translation && translationLength >= 4) {
         const auto *words = static_cast<const std::uint8_t *>(translation);
-        codes.push_back((static_cast<std::uint32_t>(SK_GetU16(words, 0)) << 16)
-                        | SK_GetU16(words, 2));
+        codes.push_back((static_cast<std::uint32_t>(SK_GetU16(words, 0)) << 16) |
+                        SK_GetU16(words, 2));
     }
     codes.push_back(0x040904E4);
     codes.push_back(0x040904B0);
@@ -416,7 +416,8 @@ std::uint32_t startService(SC_HANDLE manager, const std::string &name)
     const std::uint32_t settled = settleService(service.get(), SERVICE_RUNNING, 500);
     if (settled != 0)
         return settled;
-    if (!StartServiceA(service.get(), 0, nullptr) && GetLastError() != ERROR_SERVICE_ALREADY_RUNNING)
+    if (!StartServiceA(service.get(), 0, nullptr) &&
+        GetLastError() != ERROR_SERVICE_ALREADY_RUNNING)
         return 3;
     return waitForServiceState(service.get(), SERVICE_RUNNING, 500) ? 1 : 3;
 }
@@ -430,8 +431,8 @@ std::uint32_t stopService(SC_HANDLE manager, const std::string &name)
     if (settled != 0)
         return settled;
     SERVICE_STATUS status;
-    if (!ControlService(service.get(), SERVICE_CONTROL_STOP, &status)
-        && GetLastError() != ERROR_SERVICE_NOT_ACTIVE)
+    if (!ControlService(service.get(), SERVICE_CONTROL_STOP, &status) &&
+        GetLastError() != ERROR_SERVICE_NOT_ACTIVE)
         return 3;
     return waitForServiceState(service.get(), SERVICE_STOPPED, 1000) ? 1 : 3;
 }
@@ -449,9 +450,8 @@ std::uint32_t deleteService(SC_HANDLE manager, const std::string &name)
 std::uint32_t createService(SC_HANDLE manager, const std::string &name, const std::string &path)
 {
     OwnedService service(CreateServiceA(manager, name.c_str(), name.c_str(), SERVICE_ALL_ACCESS,
-                                        kServiceTypeCreated, kStartAutomatic,
-                                        kErrorControlNormal, path.c_str(), nullptr, nullptr,
-                                        nullptr, nullptr, nullptr));
+                                        kServiceTypeCreated, kStartAutomatic, kErrorControlNormal,
+                                        path.c_str(), nullptr, nullptr, nullptr, nullptr, nullptr));
     return service ? 1 : 3;
 }
 
@@ -493,8 +493,8 @@ public:
         diskNumbers.clear();
         const char name[] = {'\\', '\\', '.', '\\', letter, ':', '\0'};
         OwnedHandle volume(CreateFileA(name, GENERIC_READ | GENERIC_WRITE,
-                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                       OPEN_EXISTING, 0, nullptr));
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                       0, nullptr));
         if (!volume.valid()) {
             std::printf("Invalid Handle\n");
             return false;
@@ -542,8 +542,8 @@ public:
     std::uint32_t arrayRouteOfOsDisk(std::uint32_t diskNumber, std::uint32_t &deviceRoute) override
     {
         SCSI_ADDRESS address;
-        if (diskNumber >= static_cast<std::uint32_t>(kDiskNumbersSearched)
-            || !scsiAddressOfDisk(static_cast<int>(diskNumber), address))
+        if (diskNumber >= static_cast<std::uint32_t>(kDiskNumbersSearched) ||
+            !scsiAddressOfDisk(static_cast<int>(diskNumber), address))
             return 3;
         std::vector<int> ports;
         if (raidPorts(ports) != 1)
@@ -562,27 +562,26 @@ public:
     SK_VolumeLock lockAndDismountVolume(char letter) override
     {
         OwnedHandle volume(CreateFileW(volumePath(letter).c_str(), GENERIC_READ | GENERIC_WRITE,
-                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                       OPEN_EXISTING, 0, nullptr));
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                       0, nullptr));
         if (!volume.valid())
             return SK_VolumeLock::OpenFailed;
         DWORD returned = 0;
         if (!DeviceIoControl(volume.get(), FSCTL_LOCK_VOLUME, nullptr, 0, nullptr, 0, &returned,
                              nullptr))
             return SK_VolumeLock::LockFailed;
-        if (!DeviceIoControl(volume.get(), FSCTL_DISMOUNT_VOLUME, nullptr, 0, nullptr, 0,
-                             &returned, nullptr))
+        if (!DeviceIoControl(volume.get(), FSCTL_DISMOUNT_VOLUME, nullptr, 0, nullptr, 0, &returned,
+                             nullptr))
             return SK_VolumeLock::DismountFailed;
         // The lock ends when the handle is closed; the volume stays dismounted.
         return SK_VolumeLock::Done;
     }
 
-    bool volumeDeviceNumber(char letter, std::uint32_t &deviceNumber,
-                            std::uint32_t &error) override
+    bool volumeDeviceNumber(char letter, std::uint32_t &deviceNumber, std::uint32_t &error) override
     {
         OwnedHandle volume(CreateFileW(volumePath(letter).c_str(), 0,
-                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                       OPEN_EXISTING, 0, nullptr));
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                       0, nullptr));
         if (!volume.valid() || !storageDeviceNumber(volume.get(), deviceNumber)) {
             error = GetLastError();
             return false;
@@ -669,8 +668,8 @@ public:
         static_assert(sizeof addresses == 8192 || sizeof(LPVOID) != 8,
                       "room for 1024 driver addresses");
         DWORD needed = 0;
-        if (!K32EnumDeviceDrivers(addresses, sizeof addresses, &needed) || needed < 8
-            || needed > 8191)
+        if (!K32EnumDeviceDrivers(addresses, sizeof addresses, &needed) || needed < 8 ||
+            needed > 8191)
             return false;
         const DWORD count = needed / sizeof(LPVOID);
         for (DWORD i = 0; i < count; ++i) {
@@ -726,8 +725,8 @@ public:
             return 3;
         switch (action) {
         case 16:
-            if (stopService(manager.get(), name) != 1 || deleteService(manager.get(), name) != 1
-                || createService(manager.get(), name, path) != 1)
+            if (stopService(manager.get(), name) != 1 || deleteService(manager.get(), name) != 1 ||
+                createService(manager.get(), name, path) != 1)
                 return 3;
             return startService(manager.get(), name);
         case 32:
@@ -764,11 +763,9 @@ public:
         HKEY key = nullptr;
         // Creating the key needs the right to write; without it an existing key is
         // still read.
-        if (RegCreateKeyExA(HKEY_LOCAL_MACHINE, kParametersKey, 0, nullptr, 0,
-                            KEY_READ | KEY_WRITE, nullptr, &key, nullptr)
-                != ERROR_SUCCESS
-            && RegOpenKeyExA(HKEY_LOCAL_MACHINE, kParametersKey, 0, KEY_READ, &key)
-                   != ERROR_SUCCESS)
+        if (RegCreateKeyExA(HKEY_LOCAL_MACHINE, kParametersKey, 0, nullptr, 0, KEY_READ | KEY_WRITE,
+                            nullptr, &key, nullptr) != ERROR_SUCCESS &&
+            RegOpenKeyExA(HKEY_LOCAL_MACHINE, kParametersKey, 0, KEY_READ, &key) != ERROR_SUCCESS)
             return false;
         arrayCount = readNumber(key, "ArrayCount");
         fileCount = readNumber(key, "FileCount");
@@ -798,8 +795,8 @@ public:
             record.creationTime = formatFileTime(found.ftCreationTime);
             record.lastAccessTime = formatFileTime(found.ftLastAccessTime);
             record.lastWriteTime = formatFileTime(found.ftLastWriteTime);
-            record.fileSize = (static_cast<std::uint64_t>(found.nFileSizeHigh) << 32)
-                              | found.nFileSizeLow;
+            record.fileSize =
+                (static_cast<std::uint64_t>(found.nFileSizeHigh) << 32) | found.nFileSizeLow;
             record.strings = versionStrings(base + found.cFileName);
             records.push_back(std::move(record));
         } while (FindNextFileA(search, &found));
@@ -813,9 +810,9 @@ private:
         DWORD value = 0;
         DWORD type = 0;
         DWORD size = sizeof value;
-        if (RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE *>(&value), &size)
-                != ERROR_SUCCESS
-            || type != REG_DWORD || size != sizeof value)
+        if (RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE *>(&value), &size) !=
+                ERROR_SUCCESS ||
+            type != REG_DWORD || size != sizeof value)
             return 0;
         return value;
     }

@@ -106,8 +106,7 @@ protected:
 };
 
 // Writes two blocks with a gap and reads them back, under one flag mode.
-class Win32TransferModes : public Win32Transfer,
-                           public ::testing::WithParamInterface<std::uint32_t>
+class Win32TransferModes : public Win32Transfer, public ::testing::WithParamInterface<std::uint32_t>
 {
 };
 
@@ -122,18 +121,18 @@ TEST_P(Win32TransferModes, writesLandAtTheirPositionsAndReadBack)
     EXPECT_EQ(SKTL_DeviceTransfer(false, handle, buffer.data(), 0, kBlock, nullptr, nullptr),
               SK_STS_SUCCESS);
     fill(buffer.data(), kBlock, 2);
-    EXPECT_EQ(SKTL_DeviceTransfer(false, handle, buffer.data(), 2 * kBlock, kBlock, nullptr,
-                                  nullptr),
-              SK_STS_SUCCESS);
+    EXPECT_EQ(
+        SKTL_DeviceTransfer(false, handle, buffer.data(), 2 * kBlock, kBlock, nullptr, nullptr),
+        SK_STS_SUCCESS);
 
     std::memset(buffer.data(), 0xEE, kBlock);
     EXPECT_EQ(SKTL_DeviceTransfer(true, handle, buffer.data(), 0, kBlock, nullptr, nullptr),
               SK_STS_SUCCESS);
     EXPECT_TRUE(isFilled(buffer.data(), kBlock, 1)) << "the first block did not read back";
 
-    EXPECT_EQ(SKTL_DeviceTransfer(true, handle, buffer.data(), 2 * kBlock, kBlock, nullptr,
-                                  nullptr),
-              SK_STS_SUCCESS);
+    EXPECT_EQ(
+        SKTL_DeviceTransfer(true, handle, buffer.data(), 2 * kBlock, kBlock, nullptr, nullptr),
+        SK_STS_SUCCESS);
     EXPECT_TRUE(isFilled(buffer.data(), kBlock, 2)) << "the third block did not read back";
 
     // The block between them was never written and reads as zeros.
@@ -206,9 +205,9 @@ TEST_F(Win32Transfer, readingAtOrPastTheEndIsEndOfFile)
                                   nullptr, nullptr),
               SK_STS_EOF);
     // A read that starts inside the file and runs over its end moves what there is.
-    EXPECT_EQ(SKTL_DeviceTransfer(true, handle, buffer.data(), kBlock / 2, kBlock, nullptr,
-                                  nullptr),
-              SK_STS_SUCCESS);
+    EXPECT_EQ(
+        SKTL_DeviceTransfer(true, handle, buffer.data(), kBlock / 2, kBlock, nullptr, nullptr),
+        SK_STS_SUCCESS);
     SKTL_DeviceClose(handle);
 }
 
@@ -221,9 +220,9 @@ TEST_F(Win32Transfer, aWriteTheSystemRefusesIsAFailureAndIsReported)
     }
     // The device layer always opens for reading and writing; a handle opened for
     // reading only makes the system refuse the write.
-    HANDLE readOnly = CreateFileA(m_file.name().c_str(), GENERIC_READ,
-                                  FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                  FILE_FLAG_OVERLAPPED, nullptr);
+    HANDLE readOnly =
+        CreateFileA(m_file.name().c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_OVERLAPPED, nullptr);
     ASSERT_NE(readOnly, INVALID_HANDLE_VALUE);
     const auto handle = static_cast<SK_Handle>(reinterpret_cast<std::uintptr_t>(readOnly));
 
@@ -241,8 +240,8 @@ TEST_F(Win32Transfer, aWriteTheSystemRefusesIsAFailureAndIsReported)
 
 TEST_F(Win32Transfer, aReadOnAWriteOnlyHandleIsAFailureAndIsReported)
 {
-    HANDLE writeOnly = CreateFileA(m_file.name().c_str(), GENERIC_WRITE, 0, nullptr,
-                                   CREATE_ALWAYS, FILE_FLAG_OVERLAPPED, nullptr);
+    HANDLE writeOnly = CreateFileA(m_file.name().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                   FILE_FLAG_OVERLAPPED, nullptr);
     ASSERT_NE(writeOnly, INVALID_HANDLE_VALUE);
     const auto handle = static_cast<SK_Handle>(reinterpret_cast<std::uintptr_t>(writeOnly));
 
@@ -287,9 +286,9 @@ TEST_F(Win32Transfer, anUntrackedBufferIsRefusedBeforeTheSystemSeesIt)
     // A tracked block that is too short for the transfer is refused as well.
     SKTL_AlignedBuffer buffer(kBlock, "tst_win32_transfer");
     ASSERT_TRUE(buffer.ok());
-    EXPECT_EQ(SKTL_DeviceTransfer(false, handle, buffer.data(), 0, 2 * kBlock + 4096, nullptr,
-                                  nullptr),
-              SKTL_STS_INVALID_BUFFER);
+    EXPECT_EQ(
+        SKTL_DeviceTransfer(false, handle, buffer.data(), 0, 2 * kBlock + 4096, nullptr, nullptr),
+        SKTL_STS_INVALID_BUFFER);
     SKTL_DeviceClose(handle);
     // Nothing was written.
     EXPECT_EQ(fs::file_size(m_file.path()), 0u);
@@ -318,9 +317,9 @@ TEST_F(Win32Transfer, theCallbackFormReportsFromAnAlertableWait)
 
     std::memset(buffer.data(), 0, kBlock);
     Completion read;
-    EXPECT_EQ(SKTL_DeviceTransfer(true, handle, buffer.data(), kBlock, kBlock, &read,
-                                  recordCompletion),
-              SK_STS_SUCCESS);
+    EXPECT_EQ(
+        SKTL_DeviceTransfer(true, handle, buffer.data(), kBlock, kBlock, &read, recordCompletion),
+        SK_STS_SUCCESS);
     ASSERT_TRUE(waitForCompletion(read));
     EXPECT_EQ(read.status, SK_STS_SUCCESS);
     EXPECT_EQ(read.bytes, kBlock);
@@ -351,9 +350,9 @@ TEST_F(Win32Transfer, aWaitingTransferLetsOtherCompletionsRunAndStillGetsItsOwnR
     fill(second.data(), kBlock, 6);
 
     Completion queued;
-    ASSERT_EQ(SKTL_DeviceTransfer(false, handle, first.data(), 0, kBlock, &queued,
-                                  recordCompletion),
-              SK_STS_SUCCESS);
+    ASSERT_EQ(
+        SKTL_DeviceTransfer(false, handle, first.data(), 0, kBlock, &queued, recordCompletion),
+        SK_STS_SUCCESS);
     // The synchronous transfer waits alertably: the queued one's routine may run
     // first, and must not be taken for this transfer's own completion.
     EXPECT_EQ(SKTL_DeviceTransfer(false, handle, second.data(), kBlock, kBlock, nullptr, nullptr),
@@ -380,9 +379,9 @@ TEST_F(Win32Transfer, controlRequestsReachTheSystemThroughAnOverlappedHandle)
 
     // A request that no file takes fails with the system's reason.
     std::uint8_t reply[64] = {};
-    EXPECT_FALSE(SKTL_DeviceControl(handle, CTL_CODE(FILE_DEVICE_UNKNOWN, 0xABC, METHOD_BUFFERED,
-                                                     FILE_ANY_ACCESS),
-                                    nullptr, 0, reply, sizeof reply, error));
+    EXPECT_FALSE(SKTL_DeviceControl(
+        handle, CTL_CODE(FILE_DEVICE_UNKNOWN, 0xABC, METHOD_BUFFERED, FILE_ANY_ACCESS), nullptr, 0,
+        reply, sizeof reply, error));
     EXPECT_NE(error, 0u);
     SKTL_DeviceClose(handle);
 }
