@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <cwchar>
 #include <string>
 
@@ -18,7 +19,13 @@ const std::array<SK_MessageEntry, SK_MESSAGE_COUNT> &entries()
             rows[i].Priority = SK_MessageRows[i].Priority;
             for (int language = 0; language < SK_LANGUAGE_COUNT; ++language) {
                 const wchar_t *const *texts = SK_LanguageTexts[language];
-                rows[i].Text[language] = texts && texts[i] ? texts[i] : SK_MessagesEnglish[i];
+                // Every language has every text; a gap is a build mistake, not input.
+                if (!texts || !texts[i]) {
+                    std::fprintf(stderr, "message catalogue: no text for %u in language %d\n",
+                                 static_cast<unsigned>(SK_MessageRows[i].MessageId), language);
+                    std::abort();
+                }
+                rows[i].Text[language] = texts[i];
             }
         }
         return rows;

@@ -65,13 +65,12 @@ struct SK_MessageEntry
 };
 
 // Numbers and priorities, ascending, and the texts of each language in the same order.
-// A language whose translation is not there yet has a null table.
 extern const SK_MessageRow SK_MessageRows[SK_MESSAGE_COUNT];
 extern const wchar_t *const SK_MessagesEnglish[SK_MESSAGE_COUNT];
 extern const wchar_t *const *const SK_LanguageTexts[SK_LANGUAGE_COUNT];
 
-// The catalogue row of `messageId`, filled for every language (a missing translation
-// shows the English text), or null when the number has no row.
+// The catalogue row of `messageId` with its text in every language, or null when the
+// number has no row.
 const SK_MessageEntry *SK_FindMessage(std::uint32_t messageId);
 
 // Turns a message number and its eight parameters into text in `language` (36 or more
