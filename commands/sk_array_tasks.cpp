@@ -154,6 +154,10 @@ std::uint32_t SK_ApiCheckLogicalDeviceById(const SK_CoreEntry *core, std::uint64
             return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
         SK_CopyText(name, sizeof name, array->Name);
     }
+    // Record names of devices below 10 end in a blank that a searched name must not have.
+    const std::size_t length = std::strlen(name);
+    if (length > 0 && name[length - 1] == ' ')
+        name[length - 1] = '\0';
     return SK_ApiCheckLogicalDevice(core, name, mode, noWait, option);
 }
 

@@ -62,7 +62,9 @@ public:
         const int written = std::snprintf(m_text + m_position, m_size - m_position, "%-*s%s\n",
                                           SK_STATS_LABEL_WIDTH, label, value);
         if (written < 0 || static_cast<std::uint32_t>(written) >= m_size - m_position) {
-            m_position = m_size; // cut: the last line did not fit
+            // A line that does not fit is left out whole, and nothing comes after it.
+            m_text[m_position] = '\0';
+            m_position = m_size;
             return;
         }
         m_position += static_cast<std::uint32_t>(written);
