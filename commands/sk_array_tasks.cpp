@@ -50,8 +50,8 @@ std::uint32_t manageArray(const SK_CoreEntry *core, const char *name, const char
 
 // A task command started with `option` and without `noWait` returns when the task
 // has ended.
-std::uint32_t waitForStartedTask(const SK_CoreEntry *core, std::uint32_t status,
-                                 std::uint64_t id, std::uint32_t noWait, std::uint32_t option)
+std::uint32_t waitForStartedTask(const SK_CoreEntry *core, std::uint32_t status, std::uint64_t id,
+                                 std::uint32_t noWait, std::uint32_t option)
 {
     if (status != SK_STS_SUCCESS || option == 0 || noWait == 1 || id == 0)
         return status;
@@ -98,8 +98,7 @@ std::uint32_t driveLetter(const SK_CoreEntry *core, const char *tag, std::uint32
 
 } // namespace
 
-std::uint32_t SK_ApiWaitForTask(const SK_CoreEntry *core, std::uint64_t id,
-                                std::uint32_t delayMs)
+std::uint32_t SK_ApiWaitForTask(const SK_CoreEntry *core, std::uint64_t id, std::uint32_t delayMs)
 {
     if (!core || id == 0)
         return SKTL_STS_INVALID_PARAMETER;
@@ -116,8 +115,7 @@ std::uint32_t SK_ApiWaitForTask(const SK_CoreEntry *core, std::uint64_t id,
                 break;
             if (array->TaskType == SK_TASK_NONE && array->PercentComplete == 0)
                 break;
-            if (array->TaskType == SK_TASK_TRANSFORM
-                && array->TaskState == SK_TASK_STATE_FAILED) {
+            if (array->TaskType == SK_TASK_TRANSFORM && array->TaskState == SK_TASK_STATE_FAILED) {
                 failed = true;
                 break;
             }
@@ -194,9 +192,8 @@ std::uint32_t SK_ApiOfflineLogicalDevice(const SK_CoreEntry *core, std::uint32_t
                             [](std::uint8_t *) {});
 }
 
-std::uint32_t SK_ApiDriveLetter(const SK_CoreEntry *core, const char *name,
-                                std::uint32_t number, std::uint32_t letter, std::uint32_t flag,
-                                std::uint32_t)
+std::uint32_t SK_ApiDriveLetter(const SK_CoreEntry *core, const char *name, std::uint32_t number,
+                                std::uint32_t letter, std::uint32_t flag, std::uint32_t)
 {
     if (!core || !name)
         return SKTL_STS_INVALID_PARAMETER;
@@ -208,8 +205,8 @@ std::uint32_t SK_ApiDriveLetter(const SK_CoreEntry *core, const char *name,
 }
 
 std::uint32_t SK_ApiDriveLetterById(const SK_CoreEntry *core, std::uint64_t id,
-                                    std::uint32_t number, std::uint32_t letter,
-                                    std::uint32_t flag, std::uint32_t)
+                                    std::uint32_t number, std::uint32_t letter, std::uint32_t flag,
+                                    std::uint32_t)
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
@@ -217,9 +214,9 @@ std::uint32_t SK_ApiDriveLetterById(const SK_CoreEntry *core, std::uint64_t id,
                        [id](const SK_Core &open) { return SK_LookupArrayById(open, id); });
 }
 
-std::uint32_t SK_ApiManageDevicePrivateLogicalDevice(const SK_CoreEntry *core,
-                                                     const char *name, const char *text,
-                                                     std::uint32_t length, std::uint32_t option)
+std::uint32_t SK_ApiManageDevicePrivateLogicalDevice(const SK_CoreEntry *core, const char *name,
+                                                     const char *text, std::uint32_t length,
+                                                     std::uint32_t option)
 {
     if (!text)
         return SKTL_STS_INVALID_PARAMETER;

@@ -10,8 +10,7 @@
 // is alertable, so other commands run meanwhile.
 // Returns 1; 9 (SK_STS_TRANSFORM_FAILURE) after a failed transform; 7 for an ID of 0;
 // 8 without a control device.
-std::uint32_t SK_ApiWaitForTask(const SK_CoreEntry *core, std::uint64_t id,
-                                std::uint32_t delayMs);
+std::uint32_t SK_ApiWaitForTask(const SK_CoreEntry *core, std::uint64_t id, std::uint32_t delayMs);
 
 // Starts (mode 0) or stops (mode 1) a consistency check of the named array. With
 // `noWait` 1 the driver is asked not to hold the request; otherwise, with `option`
@@ -54,19 +53,17 @@ std::uint32_t SK_ApiOfflineLogicalDevice(const SK_CoreEntry *core, std::uint32_t
 // other commands carry their option, so `option` is not sent.
 // Returns 1; 7; 62; 8; 10 for an unknown array or one without members; 38; 48;
 // otherwise the transfer's result.
-std::uint32_t SK_ApiDriveLetter(const SK_CoreEntry *core, const char *name,
-                                std::uint32_t number, std::uint32_t letter, std::uint32_t flag,
-                                std::uint32_t option);
+std::uint32_t SK_ApiDriveLetter(const SK_CoreEntry *core, const char *name, std::uint32_t number,
+                                std::uint32_t letter, std::uint32_t flag, std::uint32_t option);
 std::uint32_t SK_ApiDriveLetterById(const SK_CoreEntry *core, std::uint64_t id,
-                                    std::uint32_t number, std::uint32_t letter,
-                                    std::uint32_t flag, std::uint32_t option);
+                                    std::uint32_t number, std::uint32_t letter, std::uint32_t flag,
+                                    std::uint32_t option);
 
 // Sets the display name of the named array: at most 32 bytes of `text`, cut at
 // `length`, not terminated when all 32 are used.
 // Returns 1; 7; 62; 8; 10; 38; 48; otherwise the driver's status.
-std::uint32_t SK_ApiManageDevicePrivateLogicalDevice(const SK_CoreEntry *core,
-                                                     const char *name, const char *text,
-                                                     std::uint32_t length,
+std::uint32_t SK_ApiManageDevicePrivateLogicalDevice(const SK_CoreEntry *core, const char *name,
+                                                     const char *text, std::uint32_t length,
                                                      std::uint32_t option);
 
 // The routine behind the small setters: subcode at 32, the array at 36 to 46, `value`

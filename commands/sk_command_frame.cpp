@@ -39,8 +39,7 @@ void SK_PutArrayReference(std::uint8_t *request, std::size_t offset,
     SK_PutReference(request, offset, array.ID, array.DeviceRoute, array.CoreRoute);
 }
 
-void SK_PutDiskReference(std::uint8_t *request, std::size_t offset,
-                         const SK_C_PhysicalDevice &disk)
+void SK_PutDiskReference(std::uint8_t *request, std::size_t offset, const SK_C_PhysicalDevice &disk)
 {
     SK_PutReference(request, offset, disk.ID, disk.DeviceRoute, disk.CoreRoute);
 }
@@ -112,8 +111,7 @@ std::uint32_t SK_ResolveDisk(const SK_Core &core, const char *name, std::uint8_t
 }
 
 std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list,
-                                  std::uint32_t count, std::uint8_t *request,
-                                  std::size_t offset)
+                                  std::uint32_t count, std::uint8_t *request, std::size_t offset)
 {
     for (std::uint32_t i = 0; i < count; ++i) {
         const std::uint32_t status =
@@ -125,8 +123,7 @@ std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list
 }
 
 std::uint32_t SK_ResolveDiskList(const SK_Core &core, const SK_DeviceName *list,
-                                 std::uint32_t count, std::uint8_t *request,
-                                 std::size_t offset)
+                                 std::uint32_t count, std::uint8_t *request, std::size_t offset)
 {
     for (std::uint32_t i = 0; i < count; ++i) {
         const std::uint32_t status =

@@ -94,7 +94,7 @@ constexpr std::uint32_t SK_DISK_READ_AHEAD_OFF = 16387;
 constexpr std::uint32_t SK_DISK_IDENTIFY_ON = 16389;
 constexpr std::uint32_t SK_DISK_REPLY_FIRST = 16398; // first subcode with a reply
 constexpr std::uint32_t SK_DISK_SMART_NVME = 16400;
-constexpr std::uint32_t SK_DISK_SMART_ATA = 16404;  // last subcode with a reply
+constexpr std::uint32_t SK_DISK_SMART_ATA = 16404; // last subcode with a reply
 constexpr std::uint32_t SK_DISK_SMART_POLLING_ON = 16411;
 constexpr std::uint32_t SK_DISK_SMART_POLLING_OFF = 16412;
 constexpr std::uint32_t SK_DISK_PREPARE_REMOVAL = 16417;
@@ -176,11 +176,9 @@ std::uint32_t SK_ResolveDisk(const SK_Core &core, const char *name, std::uint8_t
 // Writes the references of `count` names from `offset`, 16 bytes apart. Returns 1 or
 // the status of the first name that can't be resolved.
 std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list,
-                                  std::uint32_t count, std::uint8_t *request,
-                                  std::size_t offset);
+                                  std::uint32_t count, std::uint8_t *request, std::size_t offset);
 std::uint32_t SK_ResolveDiskList(const SK_Core &core, const SK_DeviceName *list,
-                                 std::uint32_t count, std::uint8_t *request,
-                                 std::size_t offset);
+                                 std::uint32_t count, std::uint8_t *request, std::size_t offset);
 
 // --- List commands over arrays ---------------------------------------------------------
 
@@ -207,9 +205,8 @@ struct SK_ArrayListShape
 // command's own fields. The request is (count + 64) x 16 bytes in whole sectors.
 template <class Visit, class Fill>
 std::uint32_t SK_SendArrayList(const SK_CoreEntry *core, std::uint32_t count,
-                               const SK_DeviceName *list, std::uint32_t all,
-                               std::uint32_t option, const SK_ArrayListShape &shape,
-                               Visit &&visit, Fill &&fill)
+                               const SK_DeviceName *list, std::uint32_t all, std::uint32_t option,
+                               const SK_ArrayListShape &shape, Visit &&visit, Fill &&fill)
 {
     SKTL_LockGuard lock;
     return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {

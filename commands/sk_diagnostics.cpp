@@ -13,37 +13,67 @@ constexpr std::uint32_t kMessageWords = 9;
 constexpr std::uint32_t kWwidRequestSize = 8192;
 
 // Counters C10 to C45, one line each, in report order.
-const char *const kCounterLabels[] = {
-    "IocCount:", "CleanBufferCount:", "DirtyBufferCount:", "FreeBufferCount:", "StreamHits:",
-    "SK_InitConfigFlushDone:", "SK_ConfigRescanOn:", "SK_LogMemoryIsNV:", "SK_DoSmart:",
-    "SK_SmartPollInterval:", "BusIocActiveMax:", "CoreIocActiveMax:", "MemMoveActive:",
-    "MemMoveActiveMax:", "MemXorActive:", "MemXorActiveMax:", "DirectIoActive:",
-    "SimpleIoActive:", "pLockWaitingQueueHead:", "pLockWaitingQueueTail:",
-    "pDataMemoryWaitingQueueHead:", "pIocWaitingQueueHeadReserved:", "SK_ReservedIocCount:",
-    "SK_BuffersInProgress:", "BootDirtyBuffers:", "BusIocTotalSectorsRead:",
-    "BusIocTotalSectorsWrite:", "CoreTotalSectorsRead:", "CoreTotalSectorsWrite:",
-    "MergeTotal:", "MergeBlocked:", "TouchedRegionMapWrites:", "BootTimeLogEntryCount:",
-    "SK_BuffersInProgressLimit:", "SK_ActiveBuffersLimitUpper:", "PagePromoteCount:"};
+const char *const kCounterLabels[] = {"IocCount:",
+                                      "CleanBufferCount:",
+                                      "DirtyBufferCount:",
+                                      "FreeBufferCount:",
+                                      "StreamHits:",
+                                      "SK_InitConfigFlushDone:",
+                                      "SK_ConfigRescanOn:",
+                                      "SK_LogMemoryIsNV:",
+                                      "SK_DoSmart:",
+                                      "SK_SmartPollInterval:",
+                                      "BusIocActiveMax:",
+                                      "CoreIocActiveMax:",
+                                      "MemMoveActive:",
+                                      "MemMoveActiveMax:",
+                                      "MemXorActive:",
+                                      "MemXorActiveMax:",
+                                      "DirectIoActive:",
+                                      "SimpleIoActive:",
+                                      "pLockWaitingQueueHead:",
+                                      "pLockWaitingQueueTail:",
+                                      "pDataMemoryWaitingQueueHead:",
+                                      "pIocWaitingQueueHeadReserved:",
+                                      "SK_ReservedIocCount:",
+                                      "SK_BuffersInProgress:",
+                                      "BootDirtyBuffers:",
+                                      "BusIocTotalSectorsRead:",
+                                      "BusIocTotalSectorsWrite:",
+                                      "CoreTotalSectorsRead:",
+                                      "CoreTotalSectorsWrite:",
+                                      "MergeTotal:",
+                                      "MergeBlocked:",
+                                      "TouchedRegionMapWrites:",
+                                      "BootTimeLogEntryCount:",
+                                      "SK_BuffersInProgressLimit:",
+                                      "SK_ActiveBuffersLimitUpper:",
+                                      "PagePromoteCount:"};
 constexpr std::uint32_t kFirstCounterLine = 10;
 // The four queue heads are addresses and print as such.
 constexpr std::uint32_t kFirstPointerCounter = 28, kLastPointerCounter = 31;
 
 // Cache figures K0 to K21.
-const char *const kCacheLabels[] = {
-    "ReadCacheAccess:", "StreamReadLookups:", "StreamPrefetches:", "StreamDataHit:",
-    "StripeWrites:", "StripeWritesPartial:", "NonStripeWrites:", "WriteCacheAccess:",
-    "ReadGhostCacheHit:", "ReadCacheHit:", "WriteGhostCacheHit:", "WriteCacheHit:",
-    "ReadDataBlocked:", "WriteDataBlocked:", "ParityReadAccess:", "ParityReadHit:",
-    "RMWCacheAccess:", "RMWCacheHit:", "OldDataReadAccess:", "OldDataReadHit:",
-    "FlushAccessed:", "FlushResourcePoolAccessed:"};
+const char *const kCacheLabels[] = {"ReadCacheAccess:",    "StreamReadLookups:",
+                                    "StreamPrefetches:",   "StreamDataHit:",
+                                    "StripeWrites:",       "StripeWritesPartial:",
+                                    "NonStripeWrites:",    "WriteCacheAccess:",
+                                    "ReadGhostCacheHit:",  "ReadCacheHit:",
+                                    "WriteGhostCacheHit:", "WriteCacheHit:",
+                                    "ReadDataBlocked:",    "WriteDataBlocked:",
+                                    "ParityReadAccess:",   "ParityReadHit:",
+                                    "RMWCacheAccess:",     "RMWCacheHit:",
+                                    "OldDataReadAccess:",  "OldDataReadHit:",
+                                    "FlushAccessed:",      "FlushResourcePoolAccessed:"};
 
 // Latency and strategy figures L0 to L15; L3 and L4 share one indexed label.
 const char *const kLatencyLabels[] = {
-    "WorstLatency:", "WorstLatencyRoute:", "WorstLatencyDevice:", "WorstLatencyLower[%2u]:",
-    "WorstLatencyLower[%2u]:", "WorstSimpleIoLatency:", "WorstDirectIoLatency:",
-    "WorstFileIoLatency:", "TwoTripWriteRate:", "OneTripWriteRate:", "DoWriteBypass:",
-    "WriteBypassThreshold:", "UnbufferedStrategy:", "BufferedStrategy:",
-    "WriteCacheStrategy:", "ReadCacheStrategy:"};
+    "WorstLatency:",           "WorstLatencyRoute:",      "WorstLatencyDevice:",
+    "WorstLatencyLower[%2u]:", "WorstLatencyLower[%2u]:", "WorstSimpleIoLatency:",
+    "WorstDirectIoLatency:",   "WorstFileIoLatency:",     "TwoTripWriteRate:",
+    "OneTripWriteRate:",       "DoWriteBypass:",          "WriteBypassThreshold:",
+    "UnbufferedStrategy:",     "BufferedStrategy:",       "WriteCacheStrategy:",
+    "ReadCacheStrategy:"};
 constexpr std::uint32_t kFirstLowerLatency = 3;
 
 class ReportWriter
@@ -96,8 +126,7 @@ double megabytes(std::uint64_t sectors)
 }
 
 // "%.2f (%.2f/%.2f)": read and written together, then each.
-void throughputLine(ReportWriter &out, const char *label, std::uint64_t read,
-                    std::uint64_t written)
+void throughputLine(ReportWriter &out, const char *label, std::uint64_t read, std::uint64_t written)
 {
     char value[96];
     std::snprintf(value, sizeof value, "%.2f (%.2f/%.2f)", megabytes(read + written),
@@ -252,14 +281,13 @@ std::uint32_t SK_BufferPrintApiGetStats(const SK_CoreEntry *core, char *text, st
 {
     if (!core || !text)
         return SKTL_STS_INVALID_PARAMETER;
-    return readReply(core, __func__, reset ? SK_READ_STATS_RESET : SK_READ_STATS,
-                     SK_STS_SPACE_NOT_ALLOCATED, [&](const std::uint8_t *reply) {
-                         SK_FormatStatsReport(reply, text, SK_STATS_TEXT_SIZE);
-                     });
+    return readReply(
+        core, __func__, reset ? SK_READ_STATS_RESET : SK_READ_STATS, SK_STS_SPACE_NOT_ALLOCATED,
+        [&](const std::uint8_t *reply) { SK_FormatStatsReport(reply, text, SK_STATS_TEXT_SIZE); });
 }
 
-std::uint32_t SK_ApiInjectError(const SK_CoreEntry *core, const char *diskName,
-                                std::uint32_t type, std::uint32_t option)
+std::uint32_t SK_ApiInjectError(const SK_CoreEntry *core, const char *diskName, std::uint32_t type,
+                                std::uint32_t option)
 {
     return injectError(core, diskName, type, 0, 0, option, false, __func__);
 }
@@ -272,23 +300,24 @@ std::uint32_t SK_ApiInjectErrorDisk(const SK_CoreEntry *core, const char *diskNa
 }
 
 std::uint32_t SK_ApiDirectInjectError(const SK_CoreEntry *core, const char *diskName,
-                                      std::uint32_t type, std::uint32_t start,
-                                      std::uint32_t size, std::uint32_t option)
+                                      std::uint32_t type, std::uint32_t start, std::uint32_t size,
+                                      std::uint32_t option)
 {
     return injectError(core, diskName, type, start, size, option, true, __func__);
 }
 
 std::uint32_t SK_ApiSetError(const SK_CoreEntry *core, std::uint32_t mode, std::uint32_t kind,
-                             std::uint32_t value, std::uint32_t count,
-                             const SK_DeviceName *list, std::uint32_t option)
+                             std::uint32_t value, std::uint32_t count, const SK_DeviceName *list,
+                             std::uint32_t option)
 {
     if (!core || (count != 0 && !list))
         return SKTL_STS_INVALID_PARAMETER;
     std::uint32_t status = SK_CheckDiskList(core, list, count);
     if (status != SK_STS_SUCCESS)
         return status;
-    const std::uint32_t command =
-        mode == 1 ? SK_CMD_SET_ERROR_MODE1 : mode == 2 ? SK_CMD_SET_ERROR_MODE2 : SK_CMD_SET_ERROR;
+    const std::uint32_t command = mode == 1   ? SK_CMD_SET_ERROR_MODE1
+                                  : mode == 2 ? SK_CMD_SET_ERROR_MODE2
+                                              : SK_CMD_SET_ERROR;
 
     SKTL_LockGuard lock;
     SKTL_AlignedBuffer request(SK_ListRequestSize(count), __func__);
@@ -339,8 +368,9 @@ std::uint32_t SK_DebugTraceGetTraceItem(const SK_CoreEntry *core, std::uint8_t *
 {
     if (!core || !itemOut)
         return SKTL_STS_INVALID_PARAMETER;
-    return readReply(core, __func__, SK_READ_TRACE_ITEM, SK_STS_NO_MEMORY_AVAILABLE,
-                     [&](const std::uint8_t *reply) { std::memcpy(itemOut, reply, kTraceItemSize); });
+    return readReply(
+        core, __func__, SK_READ_TRACE_ITEM, SK_STS_NO_MEMORY_AVAILABLE,
+        [&](const std::uint8_t *reply) { std::memcpy(itemOut, reply, kTraceItemSize); });
 }
 
 std::uint32_t SK_ApiGetDriverInfo(const SK_CoreEntry *core, std::uint32_t selector,
@@ -384,8 +414,7 @@ std::uint32_t SK_ApiSendMessage(const SK_CoreEntry *core, const std::uint32_t *w
     });
 }
 
-std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core,
-                                               std::uint64_t controllerId,
+std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core, std::uint64_t controllerId,
                                                std::uint32_t vendor, std::uint32_t device)
 {
     if (!core)

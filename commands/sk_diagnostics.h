@@ -32,29 +32,28 @@ std::uint32_t SK_FormatStatsReport(const std::uint8_t *reply, char *text, std::u
 // `lines` and `reserved` are kept for the callers; the report always has all lines.
 // Returns the read's status (1 on success); 7 for a null argument; 8 without a control
 // device; 5 when the reply block can't be allocated.
-std::uint32_t SK_BufferPrintApiGetStats(const SK_CoreEntry *core, char *text,
-                                        std::uint32_t lines, std::uint32_t reset,
-                                        std::uint32_t reserved);
+std::uint32_t SK_BufferPrintApiGetStats(const SK_CoreEntry *core, char *text, std::uint32_t lines,
+                                        std::uint32_t reset, std::uint32_t reserved);
 
 // Injects an error of `type` on the named disk (command 9): its routes at 32 and 34,
 // the type at 36, the range `start` and `size` at 40 and 44. The Direct form goes by
 // the disk's route and so quotes no generation.
 // Returns 1; 7; 63; 8; 11; 38; 48; otherwise the driver's (or the transfer's) status.
-std::uint32_t SK_ApiInjectError(const SK_CoreEntry *core, const char *diskName,
-                                std::uint32_t type, std::uint32_t option);
+std::uint32_t SK_ApiInjectError(const SK_CoreEntry *core, const char *diskName, std::uint32_t type,
+                                std::uint32_t option);
 std::uint32_t SK_ApiInjectErrorDisk(const SK_CoreEntry *core, const char *diskName,
                                     std::uint32_t type, std::uint32_t start, std::uint32_t size,
                                     std::uint32_t option);
 std::uint32_t SK_ApiDirectInjectError(const SK_CoreEntry *core, const char *diskName,
-                                      std::uint32_t type, std::uint32_t start,
-                                      std::uint32_t size, std::uint32_t option);
+                                      std::uint32_t type, std::uint32_t start, std::uint32_t size,
+                                      std::uint32_t option);
 
 // Sets an error condition on `count` named devices (disks or arrays): command 13 for
 // `mode` 1, 32 for mode 2, else 12; `kind` at 32, `value` at 36.
 // Returns 1; 7; 63; 8; 11; 38; 48; otherwise the driver's status.
 std::uint32_t SK_ApiSetError(const SK_CoreEntry *core, std::uint32_t mode, std::uint32_t kind,
-                             std::uint32_t value, std::uint32_t count,
-                             const SK_DeviceName *list, std::uint32_t option);
+                             std::uint32_t value, std::uint32_t count, const SK_DeviceName *list,
+                             std::uint32_t option);
 
 // Switches the driver's debug trace: mode 0 sends 20, 1 sends 19, 2 sends 22, 3 sends
 // 21, as a 512-byte request.
@@ -85,8 +84,7 @@ std::uint32_t SK_ApiSendMessage(const SK_CoreEntry *core, const std::uint32_t *w
 // (command 41).
 // Returns 1 when it does, and 73 (SK_STS_INVALID_PCI_ID) for any other outcome,
 // including a missing control device.
-std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core,
-                                               std::uint64_t controllerId,
+std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core, std::uint64_t controllerId,
                                                std::uint32_t vendor, std::uint32_t device);
 
 // Sets the two 64-bit words of a controller's WWID (command 47, 8192 bytes).

@@ -15,8 +15,8 @@ constexpr std::size_t Subcode = 32, Count = 36, References = 40;
 // Disks that "all" means: plain, unknown and legacy disks, never a core's own entry.
 bool isManagedDisk(const SK_C_PhysicalDevice &d)
 {
-    return d.DeviceType == SK_DEVICE_TYPE_DISK || d.DeviceType == SK_DEVICE_TYPE_UNKNOWN
-           || d.DeviceType == SK_DEVICE_TYPE_LEGACY;
+    return d.DeviceType == SK_DEVICE_TYPE_DISK || d.DeviceType == SK_DEVICE_TYPE_UNKNOWN ||
+           d.DeviceType == SK_DEVICE_TYPE_LEGACY;
 }
 
 std::vector<const SK_C_PhysicalDevice *> managedDisks(const SK_Core &open)
@@ -129,9 +129,8 @@ std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint3
         if (!isRead && size != 0)
             std::memcpy(r + SK_PASS_THROUGH_DATA_AT, writeFrom, size);
         readMade = true;
-        return open.SK_ConfigRead(r, bufferSize,
-                                  isRead ? SK_READ_PASS_THROUGH_READ : SK_READ_PASS_THROUGH_WRITE,
-                                  0);
+        return open.SK_ConfigRead(
+            r, bufferSize, isRead ? SK_READ_PASS_THROUGH_READ : SK_READ_PASS_THROUGH_WRITE, 0);
     });
     if (!readMade)
         return status;
@@ -273,8 +272,8 @@ std::uint32_t SK_ApiDirectManagePhysicalDevice(const SK_CoreEntry *core, std::ui
 }
 
 std::uint32_t SK_ApiManageSpare(const SK_CoreEntry *core, const char *arrayName,
-                                std::uint32_t count, const SK_DeviceName *list,
-                                std::uint32_t add, std::uint32_t global, std::uint32_t option)
+                                std::uint32_t count, const SK_DeviceName *list, std::uint32_t add,
+                                std::uint32_t global, std::uint32_t option)
 {
     if (!core || (count != 0 && !list) || (global != 1 && !arrayName))
         return SKTL_STS_INVALID_PARAMETER;
@@ -358,8 +357,7 @@ std::uint32_t SK_ApiInitializePhysicalDevice(const SK_CoreEntry *core, std::uint
     });
 }
 
-std::uint32_t SK_ApiRescan(const SK_CoreEntry *core, std::uint32_t allCores,
-                           std::uint32_t option)
+std::uint32_t SK_ApiRescan(const SK_CoreEntry *core, std::uint32_t allCores, std::uint32_t option)
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
@@ -398,8 +396,7 @@ std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores, std::
 }
 
 std::uint32_t SK_ApiPhysicalDevicePassThroughRead(const SK_CoreEntry *core, const char *name,
-                                                  std::uint32_t mode,
-                                                  SK_PassThrough *descriptor,
+                                                  std::uint32_t mode, SK_PassThrough *descriptor,
                                                   std::uint8_t *data, std::uint32_t size,
                                                   std::uint32_t *statusOut)
 {
@@ -409,8 +406,7 @@ std::uint32_t SK_ApiPhysicalDevicePassThroughRead(const SK_CoreEntry *core, cons
 }
 
 std::uint32_t SK_ApiPhysicalDevicePassThroughWrite(const SK_CoreEntry *core, const char *name,
-                                                   std::uint32_t mode,
-                                                   SK_PassThrough *descriptor,
+                                                   std::uint32_t mode, SK_PassThrough *descriptor,
                                                    const std::uint8_t *data, std::uint32_t size,
                                                    std::uint32_t *statusOut)
 {
@@ -422,8 +418,8 @@ std::uint32_t SK_ApiPhysicalDevicePassThroughWrite(const SK_CoreEntry *core, con
 }
 
 std::uint32_t SK_ApiReadDiskMetaData(const SK_CoreEntry *core, const char *name,
-                                     std::uint8_t *buffer, std::uint64_t sector,
-                                     std::uint32_t size, std::uint32_t option)
+                                     std::uint8_t *buffer, std::uint64_t sector, std::uint32_t size,
+                                     std::uint32_t option)
 {
     if (!core || !name || !buffer)
         return SKTL_STS_INVALID_PARAMETER;

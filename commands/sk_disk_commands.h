@@ -57,8 +57,8 @@ std::uint32_t SK_ApiDirectManagePhysicalDevice(const SK_CoreEntry *core, std::ui
 // Returns 1; 7; 62 for an array name and 63 for a disk name of another core; 8; 10;
 // 11; 38; 48; otherwise the driver's status.
 std::uint32_t SK_ApiManageSpare(const SK_CoreEntry *core, const char *arrayName,
-                                std::uint32_t count, const SK_DeviceName *list,
-                                std::uint32_t add, std::uint32_t global, std::uint32_t option);
+                                std::uint32_t count, const SK_DeviceName *list, std::uint32_t add,
+                                std::uint32_t global, std::uint32_t option);
 
 // Initialises `count` named disks, or every disk with `all` after deleting every array
 // of the core; `mode` 1 clears the driver's metadata.
@@ -71,13 +71,12 @@ std::uint32_t SK_ApiInitializePhysicalDevice(const SK_CoreEntry *core, std::uint
 // on every core found.
 // Returns 1; 7; 8 without a control device or when no core is found; 26 or 48 from the
 // enumeration; 38; otherwise the driver's status.
-std::uint32_t SK_ApiRescan(const SK_CoreEntry *core, std::uint32_t allCores,
-                           std::uint32_t option);
+std::uint32_t SK_ApiRescan(const SK_CoreEntry *core, std::uint32_t allCores, std::uint32_t option);
 
 // Turns the controller's buzzer on (command 45) or off (46); sent once, never retried.
 // Returns 1; 7; 8; 26 or 48 from the enumeration; otherwise the driver's status.
-std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores,
-                         std::uint32_t reserved, std::uint32_t on);
+std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores, std::uint32_t reserved,
+                         std::uint32_t on);
 
 // Passes a command block through to the named disk, reading up to 0x10000 bytes into
 // `data` (read code 4123) or writing up to 4096 bytes from it (4124). `statusOut`
@@ -85,13 +84,11 @@ std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores,
 // Returns 1; 6 for a size over the limit; 7 for a bad descriptor or argument; 63; 8;
 // 11; 38; 48; otherwise the read's status.
 std::uint32_t SK_ApiPhysicalDevicePassThroughRead(const SK_CoreEntry *core, const char *name,
-                                                  std::uint32_t mode,
-                                                  SK_PassThrough *descriptor,
+                                                  std::uint32_t mode, SK_PassThrough *descriptor,
                                                   std::uint8_t *data, std::uint32_t size,
                                                   std::uint32_t *statusOut);
 std::uint32_t SK_ApiPhysicalDevicePassThroughWrite(const SK_CoreEntry *core, const char *name,
-                                                   std::uint32_t mode,
-                                                   SK_PassThrough *descriptor,
+                                                   std::uint32_t mode, SK_PassThrough *descriptor,
                                                    const std::uint8_t *data, std::uint32_t size,
                                                    std::uint32_t *statusOut);
 
@@ -100,8 +97,8 @@ std::uint32_t SK_ApiPhysicalDevicePassThroughWrite(const SK_CoreEntry *core, con
 // Returns 1; 6 for more than 0x20000 bytes; 7; 63; 8; 11; 38; 48; otherwise the
 // read's status.
 std::uint32_t SK_ApiReadDiskMetaData(const SK_CoreEntry *core, const char *name,
-                                     std::uint8_t *buffer, std::uint64_t sector,
-                                     std::uint32_t size, std::uint32_t option);
+                                     std::uint8_t *buffer, std::uint64_t sector, std::uint32_t size,
+                                     std::uint32_t option);
 
 // 1 when `data` starts with one of the two headers that mark valid metadata, else 0.
 std::uint32_t SK_IsValidMetaDataHeader(const std::uint8_t *data, std::uint32_t size);

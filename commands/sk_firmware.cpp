@@ -92,8 +92,8 @@ std::uint32_t SK_CheckFirmwareImage(const std::uint8_t *image, std::uint32_t siz
     for (std::uint32_t i = 0; i < regionCount(image); ++i) {
         SK_FirmwareRegion region{};
         SK_FirmwareImageRegion(image, size, i, &region);
-        if (region.Size == 0 || region.Size > SK_FIRMWARE_REGION_MAX
-            || std::uint64_t{region.Offset} + region.Size > size)
+        if (region.Size == 0 || region.Size > SK_FIRMWARE_REGION_MAX ||
+            std::uint64_t{region.Offset} + region.Size > size)
             return SK_STS_INVALID_BUFFER;
     }
     return SK_STS_SUCCESS;
@@ -104,7 +104,8 @@ bool SK_FirmwareImageRegion(const std::uint8_t *image, std::uint32_t size, std::
 {
     if (!image || !regionOut || size < SK_FIRMWARE_HEADER_SIZE || index >= regionCount(image))
         return false;
-    const std::uint64_t at = regionTableAt(image) + std::uint64_t{index} * SK_FIRMWARE_REGION_ENTRY_SIZE;
+    const std::uint64_t at =
+        regionTableAt(image) + std::uint64_t{index} * SK_FIRMWARE_REGION_ENTRY_SIZE;
     if (at + SK_FIRMWARE_REGION_ENTRY_SIZE > size)
         return false;
     const auto entry = static_cast<std::size_t>(at);
@@ -125,8 +126,7 @@ std::uint32_t SK_ApiUpdateFirmwareInit(const SK_CoreEntry *core, std::uint64_t c
     for (std::uint32_t i = 0; i < pciPairCount(image); ++i) {
         const std::size_t at = SK_FIRMWARE_HEADER_SIZE + i * SK_FIRMWARE_PCI_PAIR_SIZE;
         if (SK_ApiDirectCheckControllerPCIID(core, controllerId, SK_GetU16(image, at),
-                                             SK_GetU16(image, at + 2))
-            == SK_STS_SUCCESS)
+                                             SK_GetU16(image, at + 2)) == SK_STS_SUCCESS)
             return SK_STS_SUCCESS;
     }
     return SK_STS_INVALID_PCI_ID;

@@ -89,5 +89,4 @@ std::uint32_t SK_ApiUpdateHDDFirmware(const SK_CoreEntry *core, const char *disk
 // `buffer`.
 // Returns the read's status; 7; 8; 48.
 std::uint32_t SK_ApiReadFirmware(const SK_CoreEntry *core, std::uint64_t controllerId,
-                                 std::uint32_t address, std::uint8_t *buffer,
-                                 std::uint32_t size);
+                                 std::uint32_t address, std::uint8_t *buffer, std::uint32_t size);

@@ -28,8 +28,8 @@ constexpr std::size_t InfoShift = 4;
 // Transform request (command 8) and its planning read (4108).
 namespace transform {
 constexpr std::size_t Type = 32, Id = 36, DeviceRoute = 44, CoreRoute = 46, DriveCount = 52,
-                      SpareCount = 56, Stripe = 60, Capacity = 64, First = 72, Second = 76,
-                      P2 = 80, P1 = 84, P0 = 88, Spares = 92, Drives = 156;
+                      SpareCount = 56, Stripe = 60, Capacity = 64, First = 72, Second = 76, P2 = 80,
+                      P1 = 84, P0 = 88, Spares = 92, Drives = 156;
 constexpr std::size_t InfoShift = 4;
 } // namespace transform
 
@@ -57,8 +57,8 @@ bool isTransformType(std::uint32_t type)
 bool shapeMatches(std::uint32_t first, std::uint32_t second, std::uint32_t driveCount,
                   const SK_DeviceName *drives)
 {
-    return drives && first != 0 && second != 0
-           && std::uint64_t{first} * second == std::uint64_t{driveCount};
+    return drives && first != 0 && second != 0 &&
+           std::uint64_t{first} * second == std::uint64_t{driveCount};
 }
 
 std::uint32_t checkCacheTagSize(std::uint32_t cacheTagSize)
@@ -123,8 +123,8 @@ std::uint32_t putSpares(const SK_Core &core, const SK_DeviceName *spares, std::u
 {
     std::uint32_t resolved = 0;
     for (std::uint32_t i = 0; i < count; ++i) {
-        if (SK_ResolveDisk(core, spares[i], request, offset + resolved * SK_REFERENCE_SIZE)
-            == SK_STS_SUCCESS)
+        if (SK_ResolveDisk(core, spares[i], request, offset + resolved * SK_REFERENCE_SIZE) ==
+            SK_STS_SUCCESS)
             ++resolved;
     }
     return resolved;
@@ -188,8 +188,7 @@ std::uint32_t draw16()
 
 } // namespace
 
-std::uint32_t SK_CacheTagCode(std::uint32_t cacheTagSize, bool anyNvmeDrive,
-                              std::uint32_t *codeOut)
+std::uint32_t SK_CacheTagCode(std::uint32_t cacheTagSize, bool anyNvmeDrive, std::uint32_t *codeOut)
 {
     std::uint32_t code = 0;
     switch (cacheTagSize) {
@@ -233,8 +232,8 @@ std::uint32_t SK_ApiCreateLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
                                         std::uint32_t p0, std::uint32_t p1, std::uint32_t p2,
                                         std::uint64_t id, std::uint32_t wait, char *newNameOut)
 {
-    if (!core || !isCreateType(type) || !shapeMatches(first, second, driveCount, drives)
-        || capacity == 0)
+    if (!core || !isCreateType(type) || !shapeMatches(first, second, driveCount, drives) ||
+        capacity == 0)
         return SKTL_STS_INVALID_PARAMETER;
     std::uint32_t status = checkCacheTagSize(cacheTagSize);
     if (status != SK_STS_SUCCESS)
@@ -267,7 +266,8 @@ std::uint32_t SK_ApiCreateLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
             SK_PutU32(r, SK_HDR_OPTION, 0);
             SK_PutU32(r, create::Type, type);
             SK_PutU32(r, create::DriveCount, driveCount);
-            SK_PutU32(r, create::SpareCount, putSpares(open, spares, spareNames, r, create::Spares));
+            SK_PutU32(r, create::SpareCount,
+                      putSpares(open, spares, spareNames, r, create::Spares));
             SK_PutU32(r, create::CacheTag, tagCode);
             SK_PutU32(r, create::Stripe, stripe);
             SK_PutU32(r, create::Policy, policy);
@@ -313,11 +313,11 @@ std::uint32_t SK_ApiCreateLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
 std::uint32_t SK_ApiGetCreateInfo(const SK_CoreEntry *core, std::uint32_t type,
                                   std::uint32_t driveCount, std::uint32_t spareCount,
                                   std::uint32_t stripe, std::uint32_t cacheTagSize,
-                                  std::uint32_t policy, std::uint64_t capacity,
-                                  std::uint32_t first, std::uint32_t second,
-                                  const SK_DeviceName *drives, const SK_DeviceName *spares,
-                                  std::uint32_t p0, std::uint32_t p1, std::uint32_t p2,
-                                  std::uint32_t, std::uint32_t option, std::uint8_t *infoOut)
+                                  std::uint32_t policy, std::uint64_t capacity, std::uint32_t first,
+                                  std::uint32_t second, const SK_DeviceName *drives,
+                                  const SK_DeviceName *spares, std::uint32_t p0, std::uint32_t p1,
+                                  std::uint32_t p2, std::uint32_t, std::uint32_t option,
+                                  std::uint8_t *infoOut)
 {
     if (!core || !isCreateType(type) || !shapeMatches(first, second, driveCount, drives))
         return SKTL_STS_INVALID_PARAMETER;
@@ -374,11 +374,10 @@ std::uint32_t SK_ApiTransformLogicalDevice(const SK_CoreEntry *core, const char 
                                            std::uint64_t capacity, std::uint32_t first,
                                            std::uint32_t second, const SK_DeviceName *drives,
                                            const SK_DeviceName *spares, std::uint32_t p0,
-                                           std::uint32_t p1, std::uint32_t p2,
-                                           std::uint32_t wait)
+                                           std::uint32_t p1, std::uint32_t p2, std::uint32_t wait)
 {
-    if (!core || !arrayName || !isTransformType(type)
-        || !shapeMatches(first, second, driveCount, drives) || capacity == 0)
+    if (!core || !arrayName || !isTransformType(type) ||
+        !shapeMatches(first, second, driveCount, drives) || capacity == 0)
         return SKTL_STS_INVALID_PARAMETER;
     std::uint32_t status = SK_CheckArrayName(core, arrayName);
     if (status != SK_STS_SUCCESS)
@@ -436,8 +435,8 @@ std::uint32_t SK_ApiGetTransformInfo(const SK_CoreEntry *core, const char *array
                                      std::uint32_t p1, std::uint32_t p2, std::uint32_t option,
                                      std::uint8_t *infoOut)
 {
-    if (!core || !arrayName || !isTransformType(type)
-        || !shapeMatches(first, second, driveCount, drives))
+    if (!core || !arrayName || !isTransformType(type) ||
+        !shapeMatches(first, second, driveCount, drives))
         return SKTL_STS_INVALID_PARAMETER;
     std::uint32_t status = SK_CheckArrayName(core, arrayName);
     if (status != SK_STS_SUCCESS)
@@ -511,8 +510,8 @@ std::uint32_t SK_ApiDeleteLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
                 legacyDisks.clear();
             if (array.ReferenceCount != 0 && !force)
                 return static_cast<std::uint32_t>(SK_STS_LOGICAL_DEVICE_IN_USE);
-            if (array.Type == SK_ARRAY_TYPE_LEGACY && array.ElementCount > 0 && array.Elements
-                && array.Elements[0]) {
+            if (array.Type == SK_ARRAY_TYPE_LEGACY && array.ElementCount > 0 && array.Elements &&
+                array.Elements[0]) {
                 const SK_C_PhysicalDevice *disk = SK_LookupDiskById(open, array.Elements[0]->ID);
                 if (disk && disk->DeviceType == SK_DEVICE_TYPE_LEGACY)
                     legacyDisks.push_back(disk->ID);
@@ -545,8 +544,7 @@ std::uint32_t SK_ApiSplitLogicalDevice(const SK_CoreEntry *core, const char *arr
 
     SK_DeviceName arrayList[1] = {};
     SK_CopyText(arrayList[0], sizeof arrayList[0], arrayName);
-    std::uint32_t status =
-        checkLists(core, 1, sentCount, arrayList, sentCount ? drives : nullptr);
+    std::uint32_t status = checkLists(core, 1, sentCount, arrayList, sentCount ? drives : nullptr);
     if (status != SK_STS_SUCCESS)
         return status;
 
@@ -577,14 +575,13 @@ std::uint32_t SK_ApiSplitLogicalDevice(const SK_CoreEntry *core, const char *arr
 }
 
 std::uint32_t SK_ApiCopyLogicalDevice(const SK_CoreEntry *core, const char *source,
-                                      const char *target, std::uint64_t start,
-                                      std::uint64_t size, std::uint32_t p0, std::uint32_t p1,
-                                      std::uint32_t wait)
+                                      const char *target, std::uint64_t start, std::uint64_t size,
+                                      std::uint32_t p0, std::uint32_t p1, std::uint32_t wait)
 {
     if (!core || !source || !target)
         return SKTL_STS_INVALID_PARAMETER;
-    if (SK_CheckArrayName(core, source) != SK_STS_SUCCESS
-        || SK_CheckArrayName(core, target) != SK_STS_SUCCESS)
+    if (SK_CheckArrayName(core, source) != SK_STS_SUCCESS ||
+        SK_CheckArrayName(core, target) != SK_STS_SUCCESS)
         return SK_STS_INVALID_LOGICAL_DEVICE;
 
     std::uint32_t status = SK_STS_SUCCESS;

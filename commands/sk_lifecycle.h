@@ -56,11 +56,10 @@ std::uint32_t SK_ApiCreateLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
 std::uint32_t SK_ApiGetCreateInfo(const SK_CoreEntry *core, std::uint32_t type,
                                   std::uint32_t driveCount, std::uint32_t spareCount,
                                   std::uint32_t stripe, std::uint32_t cacheTagSize,
-                                  std::uint32_t policy, std::uint64_t capacity,
-                                  std::uint32_t first, std::uint32_t second,
-                                  const SK_DeviceName *drives, const SK_DeviceName *spares,
-                                  std::uint32_t p0, std::uint32_t p1, std::uint32_t p2,
-                                  std::uint32_t reserved, std::uint32_t option,
+                                  std::uint32_t policy, std::uint64_t capacity, std::uint32_t first,
+                                  std::uint32_t second, const SK_DeviceName *drives,
+                                  const SK_DeviceName *spares, std::uint32_t p0, std::uint32_t p1,
+                                  std::uint32_t p2, std::uint32_t reserved, std::uint32_t option,
                                   std::uint8_t *infoOut);
 
 // Transforms the named array (command 8) into `type` (7157, 7158, 7159, 7162 or 7163)
@@ -73,8 +72,7 @@ std::uint32_t SK_ApiTransformLogicalDevice(const SK_CoreEntry *core, const char 
                                            std::uint64_t capacity, std::uint32_t first,
                                            std::uint32_t second, const SK_DeviceName *drives,
                                            const SK_DeviceName *spares, std::uint32_t p0,
-                                           std::uint32_t p1, std::uint32_t p2,
-                                           std::uint32_t wait);
+                                           std::uint32_t p1, std::uint32_t p2, std::uint32_t wait);
 
 // Asks what a transform would yield (read code 4108); 144 bytes of the reply go to
 // `infoOut` whenever the read was made. The capacity may be 0.
@@ -113,9 +111,8 @@ std::uint32_t SK_ApiSplitLogicalDevice(const SK_CoreEntry *core, const char *arr
 // Returns 1; 7; 62 when a name is of another core; 8; 10; 38; 48; 9 when a waited copy
 // failed; otherwise the driver's status.
 std::uint32_t SK_ApiCopyLogicalDevice(const SK_CoreEntry *core, const char *source,
-                                      const char *target, std::uint64_t start,
-                                      std::uint64_t size, std::uint32_t p0, std::uint32_t p1,
-                                      std::uint32_t wait);
+                                      const char *target, std::uint64_t start, std::uint64_t size,
+                                      std::uint32_t p0, std::uint32_t p1, std::uint32_t wait);
 
 // Asks the driver to go back to the configuration of `generation` (command 36).
 // Returns 1; 7; 8; 38; 48; otherwise the driver's status.

@@ -1,7 +1,6 @@
 #pragma once
 // A fresh emulated host per test, on a manual clock, behind a recording endpoint, so a
-// test can both look at the exact bytes a command wrote and at what the host made of
-// them.
+// test sees both the exact bytes a command wrote and what the host made of them.
 
 #include "commands/commands.h"
 #include "emulator/emulator.h"
@@ -17,107 +16,19 @@
 
 namespace cmdtest {
 
-constexpr std::uint64_t kDiskSectors = 1000000 + sk_emu::kMetadataSectors;
-constexpr std::uint64_t kMemberMiB = 488; // 1,000,000 usable sectors in whole MiB
-constexpr std::uint64_t kMirrorId = 0xA1, kParityId = 0xA2;
+constexpr std::uint64_t kMemberMiB = 488; // 1,000,000 usable sectors of a lab disk, whole MiB
+constexpr std::uint64_t kMirrorId = 0xA1, kParityId = 0xA2, kControllerId = 0xC0;
 constexpr std::uint16_t kMirrorRoute = 1, kParityRoute = 2;
-constexpr int kNvmeDisk = 7;
 constexpr std::uint16_t kLabPciVendor = 0x1F3C, kLabPciDevice = 0x43B6;
-constexpr std::uint64_t kControllerId = 0xC0;
+constexpr int kNvmeDisk = 7;
 
 inline std::uint64_t diskId(int i)
 {
     return 0xD00 + static_cast<std::uint64_t>(i);
 }
 
-// One controller with eight disks on ports 0 to 7 (the last one NVMe); with `arrays` a
-// RAID1 on disks 0 and 1 (route 1) and a RAID5 on disks 2 to 4 (route 2).
-inline sk_emu::Model lab(bool arrays = true)
-{
-    using namespace sk_emu;
-    Model m;
-    m.generation = 5;
-    m.host.drivers = {{"skraid.sys", "9.0.0.1", true}, {"skcfg.sys", "9.0.0.1", true}};
-    Controller c;
-    c.id = kControllerId;
-    c.name = "LAB RAID";
-    c.ports = 8;
-    c.pciVendor = kLabPciVendor;
-    c.pciDevice = kLabPciDevice;
-    m.controllers.push_back(c);
-    for (int i = 0; i < 8; ++i) {
-        Disk d;
-        d.id = diskId(i);
-        d.port = static_cast<std::uint32_t>(i);
-        d.capacity = kDiskSectors;
-        d.portType = code::PortSata | code::Port6G;
-        d.features = code::FeatureWriteCache | code::FeatureReadAhead | code::FeatureSmartPolling;
-        d.smartVersion = 10;
-        d.smart = {SmartAttribute{9, 0x32, 99, 99, 1234, 0}};
-        m.disks.push_back(d);
-    }
-    Disk &nvme = m.disks[kNvmeDisk];
-    nvme.portType = code::PortNvme | code::PortNvmeGen4;
-    nvme.smartVersion = 0;
-    nvme.smart.clear();
-    NvmeHealth h;
-    h.temperatureKelvin = 310;
-    h.powerOnHours = 77;
-    nvme.nvme = h;
-    if (!arrays)
-        return m;
-
-    const std::uint64_t extent = kMemberMiB * 2048;
-    auto make = [&](std::uint64_t id, std::uint16_t route, const char *name, std::uint32_t type,
-                    std::uint32_t second, int firstDisk) {
-        Array a;
-        a.id = id;
-        a.route = route;
-        a.name = name;
-        a.layout.type = type;
-        a.layout.firstCount = 1;
-        a.layout.secondCount = second;
-        for (std::uint32_t i = 0; i < second; ++i)
-            a.layout.members.push_back(
-                Member{diskId(firstDisk + static_cast<int>(i)), 0, extent, 0, extent, 0});
-        a.layout.capacity = layoutCapacity(type, 1, second, extent, extent * second);
-        return a;
-    };
-    m.arrays = {make(kMirrorId, kMirrorRoute, "Mirror", code::TypeMirrorStripe, 2, 0),
-                make(kParityId, kParityRoute, "Parity", code::TypeParity, 3, 2)};
-    return m;
-}
-
-// Device lists of the application: names of 80 bytes each.
-class NameList
-{
-public:
-    NameList() = default;
-    NameList(std::initializer_list<std::string> names)
-    {
-        for (const std::string &n : names)
-            add(n);
-    }
-    NameList &add(const std::string &name)
-    {
-        m_bytes.resize(m_bytes.size() + SK_DEVICE_NAME_SIZE, 0);
-        std::memcpy(m_bytes.data() + m_bytes.size() - SK_DEVICE_NAME_SIZE, name.data(),
-                    std::min<std::size_t>(name.size(), SK_DEVICE_NAME_SIZE - 1));
-        return *this;
-    }
-    const SK_DeviceName *data() const
-    {
-        return m_bytes.empty() ? nullptr : reinterpret_cast<const SK_DeviceName *>(m_bytes.data());
-    }
-    std::uint32_t count() const
-    {
-        return static_cast<std::uint32_t>(m_bytes.size() / SK_DEVICE_NAME_SIZE);
-    }
-
-private:
-    std::vector<char> m_bytes;
-};
-
+// Disks sit on controller 0 (core route 1) at port i (device route i + 1); arrays on
+// core route 0.
 inline std::string diskName(int i)
 {
     return "//./Core1/Route1/Device" + std::to_string(i + 1);
@@ -128,15 +39,93 @@ inline std::string arrayName(std::uint16_t route)
     return "//./Core1/Route0/Device" + std::to_string(route);
 }
 
-// Compares statuses and names both when they differ, so a failure says what came back.
+// One controller with eight disks (the last one NVMe); with `arrays` a RAID1 on disks
+// 0 and 1 (route 1) and a RAID5 on disks 2 to 4 (route 2).
+inline sk_emu::Model lab(bool arrays = true)
+{
+    using namespace sk_emu;
+    Model m;
+    m.generation = 5;
+    m.host.drivers = {{"skraid.sys", "9.0.0.1", true}, {"skcfg.sys", "9.0.0.1", true}};
+    Controller c;
+    c.id = kControllerId;
+    c.name = "LAB RAID";
+    c.pciVendor = kLabPciVendor;
+    c.pciDevice = kLabPciDevice;
+    m.controllers.push_back(c);
+    for (int i = 0; i < 8; ++i) {
+        Disk d;
+        d.id = diskId(i);
+        d.port = static_cast<std::uint32_t>(i);
+        d.capacity = 1000000 + kMetadataSectors;
+        d.portType = code::PortSata | code::Port6G;
+        d.features = code::FeatureWriteCache | code::FeatureReadAhead | code::FeatureSmartPolling;
+        d.smartVersion = 10;
+        d.smart = {SmartAttribute{9, 0x32, 99, 99, 1234, 0}};
+        m.disks.push_back(d);
+    }
+    Disk &nvme = m.disks[kNvmeDisk];
+    nvme.portType = code::PortNvme | code::PortNvmeGen4;
+    nvme.smartVersion = 0;
+    nvme.smart.clear();
+    nvme.nvme = NvmeHealth{};
+    nvme.nvme->temperatureKelvin = 310;
+    nvme.nvme->powerOnHours = 77;
+    const std::uint64_t extent = kMemberMiB * 2048;
+    auto make = [&](std::uint64_t id, std::uint16_t route, std::uint32_t type, int first, int n) {
+        Array a;
+        a.id = id;
+        a.route = route;
+        a.name = route == kMirrorRoute ? "Mirror" : "Parity";
+        a.layout = Layout{type, 1, static_cast<std::uint32_t>(n), 0, {}};
+        for (int i = 0; i < n; ++i)
+            a.layout.members.push_back(Member{diskId(first + i), 0, extent, 0, extent, 0});
+        a.layout.capacity = layoutCapacity(type, 1, n, extent, extent * n);
+        return a;
+    };
+    if (arrays)
+        m.arrays = {make(kMirrorId, kMirrorRoute, code::TypeMirrorStripe, 0, 2),
+                    make(kParityId, kParityRoute, code::TypeParity, 2, 3)};
+    return m;
+}
+
+// A device list of the application: names of 80 bytes each.
+class NameList
+{
+public:
+    NameList(std::initializer_list<std::string> names = {})
+    {
+        for (const std::string &n : names)
+            add(n);
+    }
+    NameList &add(const std::string &name)
+    {
+        m_bytes.resize(m_bytes.size() + SK_DEVICE_NAME_SIZE, 0);
+        name.copy(m_bytes.data() + m_bytes.size() - SK_DEVICE_NAME_SIZE, SK_DEVICE_NAME_SIZE - 1);
+        return *this;
+    }
+    const SK_DeviceName *data() const
+    {
+        return reinterpret_cast<const SK_DeviceName *>(m_bytes.data());
+    }
+    std::uint32_t count() const
+    {
+        return static_cast<std::uint32_t>(m_bytes.size() / SK_DEVICE_NAME_SIZE);
+    }
+
+private:
+    std::vector<char> m_bytes;
+};
+
+// Statuses compared with their names, so a failure says what came back.
 inline ::testing::AssertionResult statusEquals(const char *, const char *callText,
                                                std::uint32_t expected, std::uint32_t got)
 {
     if (expected == got)
         return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure() << callText << " returned " << got << " ("
-                                         << SK_StatusText(got) << "), expected " << expected
-                                         << " (" << SK_StatusText(expected) << ")";
+    return ::testing::AssertionFailure()
+           << callText << " returned " << got << " (" << SK_StatusText(got) << "), expected "
+           << expected << " (" << SK_StatusText(expected) << ")";
 }
 
 #define EXPECT_STATUS(expected, call) EXPECT_PRED_FORMAT2(cmdtest::statusEquals, expected, call)
@@ -165,14 +154,16 @@ protected:
         SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(recorder));
     }
 
-    // The drivers take this command or read code and change nothing.
+    // The lab drivers take this command or read code and change nothing.
     void accept(std::uint32_t code)
     {
-        host->setCommandHandler(code, [](sk_emu::Host &, sk_emu::Model &, std::uint8_t *,
-                                         std::uint32_t) { return sk_emu::CommandResult{1, false}; });
+        host->setCommandHandler(code,
+                                [](sk_emu::Host &, sk_emu::Model &, std::uint8_t *, std::uint32_t) {
+                                    return sk_emu::CommandResult{1, false};
+                                });
     }
 
-    // The one request of this code; a test fails when there is not exactly one.
+    // The one request of this code; the test fails unless there is exactly one.
     RecordedRequest only(std::uint32_t code) const
     {
         const std::vector<RecordedRequest> found = recorder->withCode(code);
@@ -182,12 +173,10 @@ protected:
 
     // The configuration as the next command would see it.
     std::unique_ptr<SK_Core> look() const { return std::make_unique<SK_Core>(".", "Core1", 0); }
-
     const SK_C_LogicalDevice *arrayIn(const SK_Core &open, std::uint64_t id) const
     {
         return SK_LookupArrayById(open, id);
     }
-
     const SK_C_PhysicalDevice *diskIn(const SK_Core &open, int i) const
     {
         return SK_LookupDiskById(open, diskId(i));

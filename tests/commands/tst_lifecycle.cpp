@@ -3,8 +3,6 @@
 
 #include "command_fixture.h"
 
-#include <thread>
-
 using namespace cmdtest;
 
 namespace {
@@ -22,17 +20,18 @@ void PrintTo(const LevelCase &c, std::ostream *os)
     *os << c.name;
 }
 
-NameList firstDisks(std::uint32_t count)
-{
-    NameList list;
-    for (std::uint32_t i = 0; i < count; ++i)
-        list.add(diskName(static_cast<int>(i)));
-    return list;
-}
-
 std::string displayName(const SK_C_LogicalDevice &array)
 {
     return std::string(array.DisplayName, strnlen(array.DisplayName, sizeof array.DisplayName));
+}
+
+std::uint32_t createVolume(const SK_CoreEntry *core, int disk, std::uint64_t id,
+                           const std::string &name = "", char *newName = nullptr)
+{
+    const NameList drives{diskName(disk)};
+    return SK_ApiCreateLogicalDevice(core, 7159, 1, 0, 0, 0, 0, 100, 1, 1, drives.data(), nullptr,
+                                     name.c_str(), static_cast<std::uint32_t>(name.size()), 0, 0, 0,
+                                     id, 0, newName);
 }
 
 class CreateLevels : public CommandTest, public ::testing::WithParamInterface<LevelCase>
@@ -44,7 +43,9 @@ protected:
 TEST_P(CreateLevels, offerTheirLargestSizeAndAreCreatedWithIt)
 {
     const LevelCase &c = GetParam();
-    const NameList drives = firstDisks(c.first * c.second);
+    NameList drives;
+    for (std::uint32_t i = 0; i < c.first * c.second; ++i)
+        drives.add(diskName(static_cast<int>(i)));
 
     std::uint8_t info[SK_CREATE_INFO_SIZE] = {};
     EXPECT_STATUS(1, SK_ApiGetCreateInfo(&core, c.type, drives.count(), 0, 0, 0, 0, 0, c.first,
@@ -52,10 +53,10 @@ TEST_P(CreateLevels, offerTheirLargestSizeAndAreCreatedWithIt)
     EXPECT_EQ(SK_GetU64(info, SK_CREATE_INFO_MAX_MIB), c.maxMiB);
 
     char newName[SK_DEVICE_NAME_SIZE] = {};
-    EXPECT_STATUS(1, SK_ApiCreateLogicalDevice(&core, c.type, drives.count(), 0, 0xC0000000u, 0,
-                                               0, c.maxMiB, c.first, c.second, drives.data(),
-                                               nullptr, c.name, static_cast<std::uint32_t>(std::strlen(c.name)),
-                                               0, 0, 0, 0, 1, newName));
+    EXPECT_STATUS(1, SK_ApiCreateLogicalDevice(
+                         &core, c.type, drives.count(), 0, 0xC0000000u, 0, 0, c.maxMiB, c.first,
+                         c.second, drives.data(), nullptr, c.name,
+                         static_cast<std::uint32_t>(std::strlen(c.name)), 0, 0, 0, 0, 1, newName));
     EXPECT_STREQ(newName, "//./Core1/Route0/Device1");
 
     auto open = look();
@@ -92,23 +93,17 @@ TEST_F(CommandTest, aTierJoinsTwoArraysWhichCanThenNotBeDeleted)
 {
     const NameList parts{arrayName(kParityRoute), arrayName(kMirrorRoute)};
     std::uint8_t info[SK_CREATE_INFO_SIZE] = {};
-    EXPECT_STATUS(1, SK_ApiGetCreateInfo(&core, 7165, 2, 0, 0, 0, 0, 0, 1, 2, parts.data(),
-                                         nullptr, 0, 0, 0, 0, 1, info));
+    EXPECT_STATUS(1, SK_ApiGetCreateInfo(&core, 7165, 2, 0, 0, 0, 0, 0, 1, 2, parts.data(), nullptr,
+                                         0, 0, 0, 0, 1, info));
     const std::uint64_t size = SK_GetU64(info, SK_CREATE_INFO_MAX_MIB);
     EXPECT_EQ(size, 3 * kMemberMiB);
     EXPECT_STATUS(1, SK_ApiCreateLogicalDevice(&core, 7165, 2, 0, 0, 0, 0x40000, size, 1, 2,
-                                               parts.data(), nullptr, "Tier", 4, 0, 0, 0, 0x7E7,
-                                               0, nullptr));
-    const RecordedRequest create = only(2);
-    EXPECT_EQ(create.u64(188), kParityId) << "a tier's drives are array references";
-    EXPECT_EQ(create.u16(196), kParityRoute);
-    EXPECT_EQ(create.u64(204), kMirrorId);
-
-    auto open = look();
-    ASSERT_NE(arrayIn(*open, 0x7E7), nullptr);
-    EXPECT_EQ(arrayIn(*open, 0x7E7)->Type, SK_ARRAY_TYPE_TIER);
-    EXPECT_EQ(arrayIn(*open, kMirrorId)->ReferenceCount, 1u);
-    open.reset();
+                                               parts.data(), nullptr, "Tier", 4, 0, 0, 0, 0x7E7, 0,
+                                               nullptr));
+    EXPECT_EQ(only(2).u64(188), kParityId) << "a tier's drives are array references";
+    EXPECT_EQ(only(2).u64(204), kMirrorId);
+    EXPECT_EQ(arrayIn(*look(), 0x7E7)->Type, SK_ARRAY_TYPE_TIER);
+    EXPECT_EQ(arrayIn(*look(), kMirrorId)->ReferenceCount, 1u);
 
     const NameList mirror{arrayName(kMirrorRoute)};
     EXPECT_STATUS(77, SK_ApiDeleteLogicalDevice(&core, 1, mirror.data(), 0, 0, 1));
@@ -119,14 +114,15 @@ TEST_F(CommandTest, aCacheTagOf32IsRefusedWithItsMessage)
 {
     const NameList drives{diskName(5), diskName(6)};
     ::testing::internal::CaptureStdout();
-    const std::uint32_t status = SK_ApiCreateLogicalDevice(
-        &core, 7158, 2, 0, 0, 32, 0, 100, 1, 2, drives.data(), nullptr, "", 0, 0, 0, 0, 0, 0, nullptr);
-    const std::uint32_t infoStatus = SK_ApiGetCreateInfo(
-        &core, 7158, 2, 0, 0, 32, 0, 0, 1, 2, drives.data(), nullptr, 0, 0, 0, 0, 1, nullptr);
-    const std::string printed = ::testing::internal::GetCapturedStdout();
-    EXPECT_STATUS(7, status);
-    EXPECT_STATUS(7, infoStatus);
-    EXPECT_EQ(printed, "invalid cachetag size=32\ninvalid cachetag size=32\n");
+    const std::uint32_t create =
+        SK_ApiCreateLogicalDevice(&core, 7158, 2, 0, 0, 32, 0, 100, 1, 2, drives.data(), nullptr,
+                                  "", 0, 0, 0, 0, 0, 0, nullptr);
+    const std::uint32_t info = SK_ApiGetCreateInfo(&core, 7158, 2, 0, 0, 32, 0, 0, 1, 2,
+                                                   drives.data(), nullptr, 0, 0, 0, 0, 1, nullptr);
+    EXPECT_EQ(::testing::internal::GetCapturedStdout(),
+              "invalid cachetag size=32\ninvalid cachetag size=32\n");
+    EXPECT_STATUS(7, create);
+    EXPECT_STATUS(7, info);
     EXPECT_EQ(recorder->opens, 0);
 }
 
@@ -140,15 +136,12 @@ TEST_F(CommandTest, createRefusesShapesTypesAndSizesItCannotSend)
     };
     EXPECT_STATUS(7, create(7160, 1, 2, 100)) << "no such type";
     EXPECT_STATUS(7, create(7161, 1, 2, 100)) << "legacy arrays are never made";
-    EXPECT_STATUS(7, create(7158, 1, 3, 100)) << "counts must cover the drives";
+    EXPECT_STATUS(7, create(7158, 1, 3, 100)) << "the counts must cover the drives";
     EXPECT_STATUS(7, create(7158, 0, 2, 100));
     EXPECT_STATUS(7, create(7158, 1, 2, 0)) << "a create needs a capacity";
-    EXPECT_STATUS(7, SK_ApiCreateLogicalDevice(&core, 7158, 2, 0, 0, 0, 0, 100, 1, 2, nullptr,
-                                               nullptr, "", 0, 0, 0, 0, 0, 0, nullptr));
-    const NameList oneDrive{diskName(5)};
-    EXPECT_STATUS(7, SK_ApiTransformLogicalDevice(&core, arrayName(kParityRoute).c_str(), 7165, 1,
-                                                  0, 0, 100, 1, 1, oneDrive.data(), nullptr, 0,
-                                                  0, 0, 0))
+    EXPECT_STATUS(7,
+                  SK_ApiTransformLogicalDevice(&core, arrayName(kParityRoute).c_str(), 7165, 2, 0,
+                                               0, 100, 1, 2, drives.data(), nullptr, 0, 0, 0, 0))
         << "nothing is transformed into a tier";
     EXPECT_EQ(recorder->opens, 0);
 }
@@ -156,41 +149,27 @@ TEST_F(CommandTest, createRefusesShapesTypesAndSizesItCannotSend)
 TEST_F(CommandTest, aFortyCharacterNameIsCutAt32)
 {
     const std::string name = "Forty characters of array display name!!";
-    ASSERT_EQ(name.size(), 40u);
-    const NameList drives{diskName(5)};
-    EXPECT_STATUS(1, SK_ApiCreateLogicalDevice(&core, 7159, 1, 0, 0, 0, 0, 100, 1, 1,
-                                               drives.data(), nullptr, name.c_str(), 40, 0, 0, 0,
-                                               0x40, 0, nullptr));
-    auto open = look();
-    ASSERT_NE(arrayIn(*open, 0x40), nullptr);
-    EXPECT_EQ(displayName(*arrayIn(*open, 0x40)), name.substr(0, 32));
-    EXPECT_EQ(arrayIn(*open, 0x40)->Capacity, 100u * 2048) << "the size asked for, in MiB";
+    EXPECT_STATUS(1, createVolume(&core, 5, 0x40, name));
+    EXPECT_EQ(displayName(*arrayIn(*look(), 0x40)), name.substr(0, 32));
+    EXPECT_EQ(arrayIn(*look(), 0x40)->Capacity, 100u * 2048) << "the size asked for, in MiB";
 }
 
 TEST_F(CommandTest, newArraysGetDistinctIds)
 {
-    EXPECT_NE(SK_MakeArrayId(7), 0u);
     EXPECT_EQ(SK_MakeArrayId(7), SK_MakeArrayId(7));
     EXPECT_NE(SK_MakeArrayId(7), SK_MakeArrayId(8));
-
-    const NameList first{diskName(5)}, second{diskName(6)};
     char a[SK_DEVICE_NAME_SIZE] = {}, b[SK_DEVICE_NAME_SIZE] = {};
-    ASSERT_EQ(SK_ApiCreateLogicalDevice(&core, 7159, 1, 0, 0, 0, 0, 100, 1, 1, first.data(),
-                                        nullptr, "", 0, 0, 0, 0, 0, 0, a), 1u);
-    ASSERT_EQ(SK_ApiCreateLogicalDevice(&core, 7159, 1, 0, 0, 0, 0, 100, 1, 1, second.data(),
-                                        nullptr, "", 0, 0, 0, 0, 0, 0, b), 1u);
+    ASSERT_EQ(createVolume(&core, 5, 0, "", a), 1u);
+    ASSERT_EQ(createVolume(&core, 6, 0, "", b), 1u);
     auto open = look();
-    const SK_C_LogicalDevice *x = SK_LookupArray(*open, a), *y = SK_LookupArray(*open, b);
-    ASSERT_NE(x, nullptr);
-    ASSERT_NE(y, nullptr);
-    EXPECT_NE(x->ID, y->ID);
-    EXPECT_EQ(recorder->withCode(2).size(), 2u) << "one create per array";
+    ASSERT_NE(SK_LookupArray(*open, a), nullptr);
+    ASSERT_NE(SK_LookupArray(*open, b), nullptr);
+    EXPECT_NE(SK_LookupArray(*open, a)->ID, SK_LookupArray(*open, b)->ID);
 }
 
 TEST_F(CommandTest, createInfoCopiesTheReplyAlsoWhenTheDriverRefuses)
 {
-    // Disk 2 is all taken by a member of the parity array.
-    const NameList drives{diskName(2)};
+    const NameList drives{diskName(2)}; // all taken by a member of the parity array
     std::uint8_t info[SK_CREATE_INFO_SIZE];
     std::memset(info, 0xEE, sizeof info);
     EXPECT_STATUS(45, SK_ApiGetCreateInfo(&core, 7159, 1, 0, 0, 0, 0, 0, 1, 1, drives.data(),
@@ -207,17 +186,15 @@ TEST_F(CommandTest, transformGrowsTheParityArrayByOneDisk)
     EXPECT_STATUS(1, SK_ApiGetTransformInfo(&core, parity.c_str(), 7157, 4, 0, 0, 1, 1, 4,
                                             drives.data(), nullptr, 0, 0, 0, 1, info));
     EXPECT_EQ(SK_GetU64(info, 24), 2 * kMemberMiB) << "the size it has";
-    const std::uint64_t largest = SK_GetU64(info, 32);
-    EXPECT_EQ(largest, 3 * kMemberMiB) << "the size it could have";
+    EXPECT_EQ(SK_GetU64(info, 32), 3 * kMemberMiB) << "the size it could have";
 
-    EXPECT_STATUS(1, SK_ApiTransformLogicalDevice(&core, parity.c_str(), 7157, 4, 0, 0, largest,
-                                                  1, 4, drives.data(), nullptr, 0, 0, 0, 1));
+    EXPECT_STATUS(1,
+                  SK_ApiTransformLogicalDevice(&core, parity.c_str(), 7157, 4, 0, 0, 3 * kMemberMiB,
+                                               1, 4, drives.data(), nullptr, 0, 0, 0, 1));
     auto open = look();
-    const SK_C_LogicalDevice *array = arrayIn(*open, kParityId);
-    ASSERT_NE(array, nullptr);
-    EXPECT_EQ(array->SecondCount, 4u);
-    EXPECT_EQ(array->Capacity / 2048, largest);
-    EXPECT_EQ(array->TaskType, 0u) << "waited to the end";
+    EXPECT_EQ(arrayIn(*open, kParityId)->SecondCount, 4u);
+    EXPECT_EQ(arrayIn(*open, kParityId)->Capacity / 2048, 3 * kMemberMiB);
+    EXPECT_EQ(arrayIn(*open, kParityId)->TaskType, 0u) << "waited to the end";
 }
 
 TEST_F(CommandTest, aTransformThatLosesAMemberWhileWaitedForReportsFailure)
@@ -227,8 +204,8 @@ TEST_F(CommandTest, aTransformThatLosesAMemberWhileWaitedForReportsFailure)
             host->failDisk(diskId(2));
     };
     const NameList drives{diskName(2), diskName(3), diskName(4), diskName(5)};
-    EXPECT_STATUS(9, SK_ApiTransformLogicalDevice(&core, arrayName(kParityRoute).c_str(), 7157,
-                                                  4, 0, 0, 3 * kMemberMiB, 1, 4, drives.data(),
+    EXPECT_STATUS(9, SK_ApiTransformLogicalDevice(&core, arrayName(kParityRoute).c_str(), 7157, 4,
+                                                  0, 0, 3 * kMemberMiB, 1, 4, drives.data(),
                                                   nullptr, 0, 0, 0, 1));
 }
 
@@ -236,31 +213,27 @@ TEST_F(CommandTest, threeArraysGoInOneRequestAndALegacyDiskIsResetAfter)
 {
     using namespace sk_emu;
     Model m = lab(false);
-    auto volume = [](std::uint64_t id, std::uint16_t route, std::uint64_t disk, std::uint32_t type) {
+    auto volume = [](std::uint64_t id, std::uint16_t route, int disk, std::uint32_t type) {
         Array a;
         a.id = id;
         a.route = route;
-        a.layout.type = type;
-        a.layout.members = {Member{disk, 0, 2048, 0, 2048, 0}};
-        a.layout.capacity = 2048;
+        a.layout = Layout{type, 1, 1, 2048, {Member{diskId(disk), 0, 2048, 0, 2048, 0}}};
         return a;
     };
     m.disks[6].type = code::DiskTypeLegacy;
-    m.arrays = {volume(0xB1, 1, diskId(0), code::TypeVolume),
-                volume(0xB2, 2, diskId(1), code::TypeLegacy), // on a plain disk: no reset
-                volume(0xB3, 3, diskId(6), code::TypeLegacy)};
+    m.arrays = {volume(0xB1, 1, 0, code::TypeVolume),
+                volume(0xB2, 2, 1, code::TypeLegacy), // on a plain disk: nothing to reset
+                volume(0xB3, 3, 6, code::TypeLegacy)};
     install(m);
 
     const NameList arrays{arrayName(1), arrayName(2), arrayName(3)};
     EXPECT_STATUS(1, SK_ApiDeleteLogicalDevice(&core, 3, arrays.data(), 0, 0, 1));
-
     const RecordedRequest deleted = only(3);
     EXPECT_EQ(deleted.u32(36), 3u);
     EXPECT_EQ(deleted.u64(40), 0xB1u);
     EXPECT_EQ(deleted.u64(56), 0xB2u);
     EXPECT_EQ(deleted.u64(72), 0xB3u);
     const RecordedRequest reset = only(4);
-    EXPECT_EQ(reset.u32(16), 1u);
     EXPECT_EQ(reset.u32(36), 1u);
     EXPECT_EQ(reset.u32(40), 1u) << "metadata is cleared";
     EXPECT_EQ(reset.u64(44), diskId(6));
@@ -270,22 +243,6 @@ TEST_F(CommandTest, threeArraysGoInOneRequestAndALegacyDiskIsResetAfter)
     auto open = look();
     EXPECT_EQ(open->ArrayCount, 0u);
     EXPECT_EQ(diskIn(*open, 6)->DeviceType, SK_DEVICE_TYPE_DISK);
-}
-
-TEST_F(CommandTest, deleteAllTakesEveryArray)
-{
-    EXPECT_STATUS(1, SK_ApiDeleteLogicalDevice(&core, 0, nullptr, 1, 0, 1));
-    EXPECT_EQ(look()->ArrayCount, 0u);
-    EXPECT_TRUE(recorder->withCode(4).empty()) << "no legacy array went";
-}
-
-TEST_F(CommandTest, copyStartsOnTheTarget)
-{
-    EXPECT_STATUS(1, SK_ApiCopyLogicalDevice(&core, arrayName(kMirrorRoute).c_str(),
-                                             arrayName(kParityRoute).c_str(), 0, 0, 0, 0, 0));
-    auto open = look();
-    EXPECT_EQ(arrayIn(*open, kParityId)->TaskType, SK_TASK_COPY);
-    EXPECT_EQ(arrayIn(*open, kParityId)->CopyFromID, kMirrorId);
 }
 
 } // namespace
