@@ -526,7 +526,7 @@ TransformFields transformFields(const Request &r, bool info)
         f.id = r.u64at(40);
         f.route = r.u16at(48);
         f.count = r.u32at(56);
-        f.capacityMiB = r.u32at(68);
+        f.capacityMiB = r.u64at(68);
         f.first = r.u32at(76);
         f.second = r.u32at(80);
         f.drivesAt = 160;
@@ -1191,6 +1191,25 @@ CommandResult copyArray(Host &, Model &m, std::uint8_t *bytes, std::uint32_t siz
     return done();
 }
 
+// Goes back to the configuration of an earlier generation, as the drivers keep a few.
+CommandResult commitPrevious(Host &host, Model &m, std::uint8_t *bytes, std::uint32_t size)
+{
+    const Request req(bytes, size);
+    Model previous;
+    // A generation the drivers no longer keep is out of their reach.
+    if (!host.previousModel(req.u64at(32), previous))
+        return refused(st::OutOfBounds);
+    const std::uint64_t generation = m.generation;
+    const std::vector<Event> events = m.events;
+    const std::uint32_t nextEvent = m.nextEventNumber;
+    m = previous;
+    m.generation = generation; // raised once more as the change is committed
+    m.events = events;
+    m.nextEventNumber = nextEvent;
+    m.logEvent(event::ConfigChange);
+    return done();
+}
+
 CommandResult accepted(Host &, Model &, std::uint8_t *, std::uint32_t)
 {
     return done(false);
@@ -1358,6 +1377,7 @@ void installDriverCommands(Host &host)
     host.setCommandHandler(cmd::ManageDisk, manageDisks);
     host.setCommandHandler(cmd::TaskControl, taskControl);
     host.setCommandHandler(cmd::Copy, copyArray);
+    host.setCommandHandler(cmd::CommitPrevious, commitPrevious);
     host.setCommandHandler(cmd::SendMessage, sendMessage);
     host.setCommandHandler(cmd::CheckPciId, checkPciId);
     host.setCommandHandler(cmd::BuzzOn, accepted);

@@ -390,6 +390,18 @@ void Host::runTasks()
     }
 }
 
+bool Host::previousModel(std::uint64_t generation, Model &model) const
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    for (const auto &[kept, snapshot] : m_history) {
+        if (kept == generation) {
+            model = snapshot;
+            return true;
+        }
+    }
+    return false;
+}
+
 void Host::setPendingReply(std::uint32_t channelId, std::vector<std::uint8_t> data)
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);

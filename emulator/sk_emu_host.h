@@ -131,6 +131,9 @@ public:
     void setPendingReply(std::uint32_t channelId, std::vector<std::uint8_t> data);
     std::vector<std::uint8_t> takePendingReply(std::uint32_t channelId);
 
+    // The model of an earlier generation the host still keeps; false when it has none.
+    bool previousModel(std::uint64_t generation, Model &model) const;
+
     // Configuration images of recent generations, for reads of a previous generation.
     static constexpr std::size_t kGenerationHistory = 8;
 

@@ -15,6 +15,13 @@ namespace {
 
 const SK_CoreEntry kCore{1, ".", "Core1"};
 
+// Snapshot fields are packed; the test framework binds references, so take copies.
+template <class T>
+T value(T field)
+{
+    return field;
+}
+
 const SK_ConfigDisk *diskById(const SK_ConfigSnapshot &s, std::uint64_t id)
 {
     for (std::int32_t i = 0; i < s.DiskCount; ++i) {
@@ -53,24 +60,24 @@ TEST_F(EndToEnd, snapshotDescribesTheDefaultWorkstation)
     const sk_emu::Model m = scope.host->model();
     ASSERT_EQ(snapshot->ControllerCount, 1);
     EXPECT_STREQ(snapshot->Controllers[0].Name, m.controllers[0].name.c_str());
-    EXPECT_EQ(snapshot->Controllers[0].SerialNumber, m.controllers[0].serial);
+    EXPECT_EQ(value(snapshot->Controllers[0].SerialNumber), m.controllers[0].serial);
 
     // Every disk of the scenario, with what the console shows of it.
     for (const sk_emu::Disk &d : m.disks) {
         const SK_ConfigDisk *disk = diskById(*snapshot, d.id);
         ASSERT_NE(disk, nullptr) << std::hex << d.id;
-        EXPECT_EQ(disk->Capacity, d.capacity);
+        EXPECT_EQ(value(disk->Capacity), d.capacity);
         EXPECT_EQ(std::string(disk->Model), d.model);
         EXPECT_EQ(std::string(disk->SerialNumber), d.serial);
-        EXPECT_EQ(disk->PortType, d.portType);
-        EXPECT_EQ(disk->Features, d.features);
+        EXPECT_EQ(value(disk->PortType), d.portType);
+        EXPECT_EQ(value(disk->Features), d.features);
         EXPECT_EQ(disk->GlobalSpare != 0, d.globalSpare) << d.model;
         EXPECT_EQ(disk->Channel, static_cast<std::int32_t>(d.port));
         EXPECT_STREQ(disk->State, "Online");
     }
     // The NVMe disk is free; the mirror's SSDs have only the metadata tail left.
-    EXPECT_GT(diskById(*snapshot, m.disks[6].id)->TotalFreeSpace, 3900000000u);
-    EXPECT_LT(diskById(*snapshot, m.disks[0].id)->LargestFreeSpace, 2048u);
+    EXPECT_GT(value(diskById(*snapshot, m.disks[6].id)->TotalFreeSpace), 3900000000u);
+    EXPECT_LT(value(diskById(*snapshot, m.disks[0].id)->LargestFreeSpace), 2048u);
 
     ASSERT_EQ(snapshot->ArrayCount, 2);
     const SK_ConfigArray *system = arrayById(*snapshot, m.arrays[0].id);
@@ -82,10 +89,10 @@ TEST_F(EndToEnd, snapshotDescribesTheDefaultWorkstation)
     EXPECT_STREQ(system->Cache, "RW");
     EXPECT_STREQ(data->Cache, "R");
     EXPECT_STREQ(system->DisplayName, "System");
-    EXPECT_EQ(data->Capacity, m.arrays[1].layout.capacity);
+    EXPECT_EQ(value(data->Capacity), m.arrays[1].layout.capacity);
     EXPECT_EQ(data->FirstCount * data->SecondCount, 3);
-    EXPECT_EQ(data->Members[2].DiskId, m.arrays[1].layout.members[2].disk);
-    EXPECT_EQ(data->Members[2].Size, m.arrays[1].layout.members[2].size);
+    EXPECT_EQ(value(data->Members[2].DiskId), m.arrays[1].layout.members[2].disk);
+    EXPECT_EQ(value(data->Members[2].Size), m.arrays[1].layout.members[2].size);
     EXPECT_STREQ(data->Members[2].Error, "NoError");
     // Windows sees the visible arrays as disks 0 and 1.
     EXPECT_STREQ(system->OsName, "0");
@@ -105,7 +112,7 @@ TEST_F(EndToEnd, aDegradedArrayRebuildingOntoTheSpareShowsInTheSnapshot)
     EXPECT_STREQ(data->TransformState, "STARTED");
     EXPECT_GT(data->TransformPercentComplete, 10.0f);
     EXPECT_LT(data->TransformPercentComplete, 25.0f);
-    EXPECT_EQ(data->Members[1].DiskId, before.disks[5].id); // the former global spare
+    EXPECT_EQ(value(data->Members[1].DiskId), before.disks[5].id); // the former global spare
     EXPECT_STREQ(data->Members[1].Error, "Offline");
     EXPECT_STREQ(diskById(*snapshot, before.disks[3].id)->State, "Offline");
 }

@@ -569,3 +569,22 @@ TEST_F(Commands, scriptedSessionShowsEveryStepInTheImageAndTheLog)
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(Commands, commitPreviousReturnsToAnEarlierGeneration)
+{
+    const std::uint64_t before = scope.host->generation();
+    ASSERT_EQ(createArray(7158, 2, 1, {0xD00, 0xD01}, 100, 0xA1), 1u);
+    Request commit(1024);
+    commit.u64(32, before);
+    ASSERT_EQ(write(commit, 36), 1u);
+    const Model m = scope.host->model();
+    EXPECT_TRUE(m.arrays.empty());
+    EXPECT_EQ(m.generation, before + 2);
+    EXPECT_EQ(m.events.back().message, 1037u);
+    commit.u64(32, 999);
+    EXPECT_EQ(write(commit, 36), SK_STS_OUT_OF_BOUNDS);
+}
+
+} // namespace
