@@ -23,7 +23,6 @@ constexpr std::uint32_t InvalidParameter = 7;
 constexpr std::uint32_t NoArray = 10;
 constexpr std::uint32_t NoDisk = 11;
 constexpr std::uint32_t OutOfBounds = 27;
-constexpr std::uint32_t NotImplemented = 30;
 constexpr std::uint32_t Busy = 40;
 constexpr std::uint32_t Critical = 41;
 constexpr std::uint32_t Offline = 42;
@@ -41,7 +40,6 @@ constexpr std::uint32_t InUse = 77;
 constexpr std::uint32_t kMaxRoutes = 24;
 constexpr std::uint64_t kSectorsPerMiB = 2048;
 constexpr std::size_t kRefSize = 16;
-constexpr std::uint32_t kNoWait = 0x10000000;
 
 CommandResult done(bool changed = true)
 {
