@@ -123,7 +123,11 @@ windows_build_and_test() {
 case "${1:-}" in
 deps) install_deps ;;
 run) install_deps && start_console ;;
-test) install_deps && configure_and_build build-test -DCMAKE_BUILD_TYPE=Debug && run_tests build-test ;;
+test)
+    install_deps
+    configure_and_build build-test -DCMAKE_BUILD_TYPE=Debug -DSK_BUILD_BENCH=ON
+    run_tests build-test
+    ;;
 sanitize)
     install_deps
     configure_and_build build-asan -DCMAKE_BUILD_TYPE=Debug -DSK_SANITIZE=ON
