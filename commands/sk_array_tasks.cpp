@@ -9,8 +9,8 @@ constexpr std::uint32_t kTaskPollIntervalMs = 1000;
 
 // Fields of the array management request (command 7).
 namespace manage {
-constexpr std::size_t Subcode = 32, Id = 36, DeviceRoute = 44, CoreRoute = 46, Count = 52,
-                      Value = 56, Text = 60;
+// The array's reference fills 36 to 51: ID, DeviceRoute at 44, CoreRoute at 46.
+constexpr std::size_t Subcode = 32, Reference = 36, Count = 52, Value = 56, Text = 60;
 } // namespace manage
 
 // Sends one management request for the named array. `fill(request)` adds the
@@ -26,26 +26,19 @@ std::uint32_t manageArray(const SK_CoreEntry *core, const char *name, const char
     if (status != SK_STS_SUCCESS)
         return status;
 
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, tag);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_LogicalDevice *array = SK_LookupArray(open, name);
-        if (!array)
-            return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-        if (idOut)
-            *idOut = array->ID;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, manage::Subcode, subcode);
-        SK_PutU64(r, manage::Id, array->ID);
-        SK_PutU16(r, manage::DeviceRoute, array->DeviceRoute);
-        SK_PutU16(r, manage::CoreRoute, array->CoreRoute);
-        fill(r);
-        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_MANAGE_ARRAY);
-    });
+    return SK_RunCommand(
+        core, SK_PLAIN_REQUEST_SIZE, tag, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            const SK_C_LogicalDevice *array = SK_LookupArray(open, name);
+            if (!array)
+                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
+            if (idOut)
+                *idOut = array->ID;
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            SK_PutU32(r, manage::Subcode, subcode);
+            SK_PutArrayReference(r, manage::Reference, *array);
+            fill(r);
+            return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_MANAGE_ARRAY);
+        });
 }
 
 // A task command started with `option` and without `noWait` returns when the task
@@ -76,24 +69,19 @@ template <class Find>
 std::uint32_t driveLetter(const SK_CoreEntry *core, const char *tag, std::uint32_t number,
                           std::uint32_t letter, std::uint32_t flag, Find &&find)
 {
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, tag);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_LogicalDevice *array = find(open);
-        // The request travels through the route of the first member.
-        if (!array || array->ElementCount == 0 || !array->Elements || !array->Elements[0])
-            return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-        SK_PutU64(r, 16, array->ID);
-        SK_PutU32(r, 40, number);
-        SK_PutU32(r, 44, letter);
-        SK_PutU32(r, 48, flag);
-        return open.SK_ConfigWriteRoute(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_DRIVE_LETTER,
-                                        array->Elements[0]->CoreRoute);
-    });
+    return SK_RunCommand(
+        core, SK_PLAIN_REQUEST_SIZE, tag, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            const SK_C_LogicalDevice *array = find(open);
+            // The request travels through the route of the first member.
+            if (!array || array->ElementCount == 0 || !array->Elements || !array->Elements[0])
+                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
+            SK_PutU64(r, 16, array->ID);
+            SK_PutU32(r, 40, number);
+            SK_PutU32(r, 44, letter);
+            SK_PutU32(r, 48, flag);
+            return open.SK_ConfigWriteRoute(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_DRIVE_LETTER,
+                                            array->Elements[0]->CoreRoute);
+        });
 }
 
 } // namespace

@@ -22,6 +22,46 @@ std::uint32_t checkList(const SK_CoreEntry *core, const SK_DeviceName *list, std
     return SK_STS_SUCCESS;
 }
 
+// 7 without a core, with neither a count nor `all`, or with a count but no list;
+// `refusal` for a name of another core.
+std::uint32_t checkListArguments(const SK_CoreEntry *core, std::uint32_t count,
+                                 const SK_DeviceName *list, std::uint32_t all,
+                                 std::uint32_t refusal)
+{
+    if (!core || (count == 0 && !all))
+        return SKTL_STS_INVALID_PARAMETER;
+    if (all)
+        return SK_STS_SUCCESS;
+    if (!list)
+        return SKTL_STS_INVALID_PARAMETER;
+    return checkList(core, list, count, refusal);
+}
+
+// Writes the reference of `record` (an array or a disk), or answers `missing`.
+template <class Record>
+std::uint32_t putFound(const Record *record, std::uint32_t missing, std::uint8_t *request,
+                       std::size_t offset)
+{
+    if (!record)
+        return missing;
+    SK_PutReference(request, offset, record->ID, record->DeviceRoute, record->CoreRoute);
+    return SK_STS_SUCCESS;
+}
+
+using ResolveOne = std::uint32_t (*)(const SK_Core &, const char *, std::uint8_t *, std::size_t);
+
+std::uint32_t resolveList(ResolveOne resolve, const SK_Core &core, const SK_DeviceName *list,
+                          std::uint32_t count, std::uint8_t *request, std::size_t offset)
+{
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const std::uint32_t status =
+            resolve(core, list[i], request, offset + i * SK_REFERENCE_SIZE);
+        if (status != SK_STS_SUCCESS)
+            return status;
+    }
+    return SK_STS_SUCCESS;
+}
+
 } // namespace
 
 void SK_PutReference(std::uint8_t *request, std::size_t offset, std::uint64_t id,
@@ -93,55 +133,35 @@ const SK_C_PhysicalDevice *SK_LookupDiskById(const SK_Core &core, std::uint64_t 
 std::uint32_t SK_ResolveArray(const SK_Core &core, const char *name, std::uint8_t *request,
                               std::size_t offset)
 {
-    const SK_C_LogicalDevice *array = SK_LookupArray(core, name);
-    if (!array)
-        return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-    SK_PutArrayReference(request, offset, *array);
-    return SK_STS_SUCCESS;
+    return putFound(SK_LookupArray(core, name), SK_STS_LOGICAL_DEVICE_NOT_FOUND, request, offset);
 }
 
 std::uint32_t SK_ResolveDisk(const SK_Core &core, const char *name, std::uint8_t *request,
                              std::size_t offset)
 {
-    const SK_C_PhysicalDevice *disk = SK_LookupDisk(core, name);
-    if (!disk)
-        return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-    SK_PutDiskReference(request, offset, *disk);
-    return SK_STS_SUCCESS;
+    return putFound(SK_LookupDisk(core, name), SK_STS_PHYSICAL_DEVICE_NOT_FOUND, request, offset);
 }
 
 std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list,
                                   std::uint32_t count, std::uint8_t *request, std::size_t offset)
 {
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const std::uint32_t status =
-            SK_ResolveArray(core, list[i], request, offset + i * SK_REFERENCE_SIZE);
-        if (status != SK_STS_SUCCESS)
-            return status;
-    }
-    return SK_STS_SUCCESS;
+    return resolveList(SK_ResolveArray, core, list, count, request, offset);
 }
 
 std::uint32_t SK_ResolveDiskList(const SK_Core &core, const SK_DeviceName *list,
                                  std::uint32_t count, std::uint8_t *request, std::size_t offset)
 {
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const std::uint32_t status =
-            SK_ResolveDisk(core, list[i], request, offset + i * SK_REFERENCE_SIZE);
-        if (status != SK_STS_SUCCESS)
-            return status;
-    }
-    return SK_STS_SUCCESS;
+    return resolveList(SK_ResolveDisk, core, list, count, request, offset);
 }
 
 std::uint32_t SK_CheckArrayListArguments(const SK_CoreEntry *core, std::uint32_t count,
                                          const SK_DeviceName *list, std::uint32_t all)
 {
-    if (!core || (count == 0 && !all))
-        return SKTL_STS_INVALID_PARAMETER;
-    if (all)
-        return SK_STS_SUCCESS;
-    if (!list)
-        return SKTL_STS_INVALID_PARAMETER;
-    return SK_CheckArrayList(core, list, count);
+    return checkListArguments(core, count, list, all, SK_STS_INVALID_LOGICAL_DEVICE);
+}
+
+std::uint32_t SK_CheckDiskListArguments(const SK_CoreEntry *core, std::uint32_t count,
+                                        const SK_DeviceName *list, std::uint32_t all)
+{
+    return checkListArguments(core, count, list, all, SK_STS_INVALID_DEVICE_LIST);
 }

@@ -7,13 +7,17 @@
 // entry), takes the library lock, allocates its request by the aligned pattern tagged
 // with its own name, and then tries at most three times (SK_WithFreshCore): build a
 // core, resolve every name into a 16-byte reference, send. Only a stale generation
-// (38) goes round again.
+// (38) goes round again. SK_RunCommand is that frame; a command writes only its try.
 
 #include "config/sk_config_lookup.h"
 #include "config/sk_vocabulary.h"
 #include "driver/sk_retry.h"
 #include "driver/sk_status.h"
 #include "driver/sktl.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
 
 // --- Write commands ------------------------------------------------------------------
 
@@ -124,13 +128,13 @@ constexpr std::uint32_t SK_READ_REPLY_SIZE = 8192;
 
 // Size of a request that carries `count` device references: the references plus room
 // for the fixed fields, in whole sectors.
-inline std::uint32_t SK_ListRequestSize(std::uint32_t count)
+constexpr std::uint32_t SK_ListRequestSize(std::uint32_t count)
 {
     return (count * SK_REFERENCE_SIZE + 1535u) & ~511u;
 }
 
 // The other list form: 64 references' worth of fixed fields in front of the list.
-inline std::uint32_t SK_PaddedListRequestSize(std::uint32_t count)
+constexpr std::uint32_t SK_PaddedListRequestSize(std::uint32_t count)
 {
     return ((count + 64u) * SK_REFERENCE_SIZE + 511u) & ~511u;
 }
@@ -180,13 +184,88 @@ std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list
 std::uint32_t SK_ResolveDiskList(const SK_Core &core, const SK_DeviceName *list,
                                  std::uint32_t count, std::uint8_t *request, std::size_t offset);
 
-// --- List commands over arrays ---------------------------------------------------------
+// --- The body of a command ------------------------------------------------------------
+
+// The tries of a command whose request is already allocated: `attempt(core, request)`
+// runs by SK_WithFreshCore, and the request is cleared once each fresh core is built,
+// so no try sees what an earlier one wrote or read. For commands that allocate or
+// lock in their own way, or send more than once; the caller holds the lock.
+// Returns 8 when the control device can't be opened, else the last status.
+template <class Attempt>
+std::uint32_t SK_RetryRequest(const SK_CoreEntry *core, const SKTL_AlignedBuffer &request,
+                              Attempt &&attempt)
+{
+    std::uint8_t *bytes = request.data();
+    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
+        std::memset(bytes, 0, request.size());
+        return attempt(open, bytes);
+    });
+}
+
+// The body of a command: under the library lock, with an aligned request of `size`
+// bytes tagged `tag`, `attempt(core, request)` runs on a fresh core, at most three
+// times while the driver answers 38; the request is cleared before every try. Then
+// `finish(status, request)` gives the result from the last status and the request as
+// the tries left it (a reply the driver wrote into it, say).
+// Returns 48 when the request can't be allocated, and `finish` is not called.
+template <class Attempt, class Finish>
+std::uint32_t SK_RunCommand(const SK_CoreEntry *core, std::uint32_t size, const char *tag,
+                            Attempt &&attempt, Finish &&finish)
+{
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(size, tag);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    const std::uint32_t status = SK_RetryRequest(core, request, attempt);
+    return finish(status, static_cast<const std::uint8_t *>(request.data()));
+}
+
+// The same when nothing is left to do after the tries. Returns 48 when the request
+// can't be allocated, 8 when the control device can't be opened, else the last status.
+template <class Attempt>
+std::uint32_t SK_RunCommand(const SK_CoreEntry *core, std::uint32_t size, const char *tag,
+                            Attempt &&attempt)
+{
+    return SK_RunCommand(core, size, tag, std::forward<Attempt>(attempt),
+                         [](std::uint32_t status, const std::uint8_t *) { return status; });
+}
+
+// A read of `readCode` whose reply, `size` bytes of it, goes to `out` when the driver
+// answers 1. The driver is asked for `size` in whole sectors, in a block never smaller
+// than the 8192 bytes every read sends first; before each try `fill(core, request)`
+// writes what names the thing read, or refuses with a status.
+// Returns the read's status; 48 when the block can't be allocated; 8 without a
+// control device; a refusal of `fill`.
+template <class Fill>
+std::uint32_t SK_ReadInto(const SK_CoreEntry *core, const char *tag, std::uint32_t readCode,
+                          std::uint8_t *out, std::uint32_t size, Fill &&fill)
+{
+    const std::uint32_t readSize = (std::max(size, 1u) + 511u) & ~511u;
+    return SK_RunCommand(
+        core, std::max(readSize, SK_READ_REPLY_SIZE), tag,
+        [&](SK_Core &open, std::uint8_t *request) -> std::uint32_t {
+            const std::uint32_t filled = fill(open, request);
+            if (filled != SK_STS_SUCCESS)
+                return filled;
+            return open.SK_ConfigRead(request, readSize, readCode, 0);
+        },
+        [&](std::uint32_t status, const std::uint8_t *reply) {
+            if (status == SK_STS_SUCCESS)
+                std::memcpy(out, reply, size);
+            return status;
+        });
+}
+
+// --- List commands -------------------------------------------------------------------
 
 // Checks of a list command made before the lock: 7 without a core, with neither a
 // count nor `all`, or with a count but no list; 62 for a name of another core.
 // Returns 1 otherwise. With `all` the list is not looked at.
 std::uint32_t SK_CheckArrayListArguments(const SK_CoreEntry *core, std::uint32_t count,
                                          const SK_DeviceName *list, std::uint32_t all);
+// The same for a list command over disks; 63 for a name of another core.
+std::uint32_t SK_CheckDiskListArguments(const SK_CoreEntry *core, std::uint32_t count,
+                                        const SK_DeviceName *list, std::uint32_t all);
 
 // Where a list command over arrays keeps its count and references.
 struct SK_ArrayListShape

@@ -1,6 +1,5 @@
 #include "commands/sk_diagnostics.h"
 
-#include <algorithm>
 #include <cinttypes>
 #include <cstdio>
 
@@ -161,20 +160,15 @@ std::uint32_t sendPlain(const SK_CoreEntry *core, const char *tag, std::uint32_t
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(size, tag);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
+    return SK_RunCommand(core, size, tag, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
         SK_PutU32(r, SK_HDR_OPTION, option);
         return open.SK_ConfigWrite(r, size, command);
     });
 }
 
 // A read of `readCode` into an 8192-byte block; `take(reply)` copies what the caller
-// wants when the read was made.
+// wants when the read was made. A block that can't be allocated is answered with
+// `noMemory`, which is not 48 for every caller, so the frame is spelt out here.
 template <class Take>
 std::uint32_t readReply(const SK_CoreEntry *core, const char *tag, std::uint32_t readCode,
                         std::uint32_t noMemory, Take &&take)
@@ -183,13 +177,12 @@ std::uint32_t readReply(const SK_CoreEntry *core, const char *tag, std::uint32_t
     SKTL_AlignedBuffer reply(SK_READ_REPLY_SIZE, tag);
     if (!reply.ok())
         return noMemory;
-    std::uint8_t *r = reply.data();
-    const std::uint32_t status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, reply.size());
-        return open.SK_ConfigRead(r, SK_READ_REPLY_SIZE, readCode, 0);
-    });
+    const std::uint32_t status =
+        SK_RetryRequest(core, reply, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            return open.SK_ConfigRead(r, SK_READ_REPLY_SIZE, readCode, 0);
+        });
     if (status == SK_STS_SUCCESS)
-        take(r);
+        take(reply.data());
     return status;
 }
 
@@ -203,27 +196,22 @@ std::uint32_t injectError(const SK_CoreEntry *core, const char *diskName, std::u
     const std::uint32_t status = SK_CheckDiskName(core, diskName);
     if (status != SK_STS_SUCCESS)
         return status;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, tag);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, diskName);
-        if (!disk)
-            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU16(r, 32, disk->DeviceRoute);
-        SK_PutU16(r, 34, disk->CoreRoute);
-        SK_PutU32(r, 36, type);
-        SK_PutU32(r, 40, start);
-        SK_PutU32(r, 44, size);
-        if (byRoute)
-            return open.SK_ConfigWriteRoute(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_INJECT_ERROR,
-                                            disk->CoreRoute);
-        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_INJECT_ERROR);
-    });
+    return SK_RunCommand(
+        core, SK_PLAIN_REQUEST_SIZE, tag, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, diskName);
+            if (!disk)
+                return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            SK_PutU16(r, 32, disk->DeviceRoute);
+            SK_PutU16(r, 34, disk->CoreRoute);
+            SK_PutU32(r, 36, type);
+            SK_PutU32(r, 40, start);
+            SK_PutU32(r, 44, size);
+            if (byRoute)
+                return open.SK_ConfigWriteRoute(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_INJECT_ERROR,
+                                                disk->CoreRoute);
+            return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_INJECT_ERROR);
+        });
 }
 
 } // namespace
@@ -312,36 +300,31 @@ std::uint32_t SK_ApiSetError(const SK_CoreEntry *core, std::uint32_t mode, std::
 {
     if (!core || (count != 0 && !list))
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = SK_CheckDiskList(core, list, count);
+    const std::uint32_t status = SK_CheckDiskList(core, list, count);
     if (status != SK_STS_SUCCESS)
         return status;
     const std::uint32_t command = mode == 1   ? SK_CMD_SET_ERROR_MODE1
                                   : mode == 2 ? SK_CMD_SET_ERROR_MODE2
                                               : SK_CMD_SET_ERROR;
-
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_ListRequestSize(count), __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        for (std::uint32_t i = 0; i < count; ++i) {
-            // A name may be a disk's or an array's; the record says which.
-            const std::size_t at = 44 + i * SK_REFERENCE_SIZE;
-            if (const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, list[i]))
-                SK_PutDiskReference(r, at, *disk);
-            else if (const SK_C_LogicalDevice *array = SK_LookupArray(open, list[i]))
-                SK_PutArrayReference(r, at, *array);
-            else
-                return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-        }
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, 32, kind);
-        SK_PutU32(r, 36, value);
-        SK_PutU32(r, 40, count);
-        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()), command);
-    });
+    const std::uint32_t size = SK_ListRequestSize(count);
+    return SK_RunCommand(
+        core, size, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            for (std::uint32_t i = 0; i < count; ++i) {
+                // A name may be a disk's or an array's; the record says which.
+                const std::size_t at = 44 + i * SK_REFERENCE_SIZE;
+                if (const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, list[i]))
+                    SK_PutDiskReference(r, at, *disk);
+                else if (const SK_C_LogicalDevice *array = SK_LookupArray(open, list[i]))
+                    SK_PutArrayReference(r, at, *array);
+                else
+                    return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+            }
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            SK_PutU32(r, 32, kind);
+            SK_PutU32(r, 36, value);
+            SK_PutU32(r, 40, count);
+            return open.SK_ConfigWrite(r, size, command);
+        });
 }
 
 std::uint32_t SK_DebugTrace(const SK_CoreEntry *core, std::uint32_t mode)
@@ -380,19 +363,9 @@ std::uint32_t SK_ApiGetDriverInfo(const SK_CoreEntry *core, std::uint32_t select
                                               SK_READ_DRIVER_INFO2};
     if (!core || !buffer || selector >= sizeof readCodes / sizeof *readCodes)
         return SKTL_STS_INVALID_PARAMETER;
-    const std::uint32_t replySize = (std::max(size, 1u) + 511u) & ~511u;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer reply(std::max(replySize, SK_READ_REPLY_SIZE), __func__);
-    if (!reply.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = reply.data();
-    const std::uint32_t status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, reply.size());
-        return open.SK_ConfigRead(r, replySize, readCodes[selector], 0);
-    });
-    if (status == SK_STS_SUCCESS)
-        std::memcpy(buffer, r, size);
-    return status;
+    return SK_ReadInto(
+        core, __func__, readCodes[selector], buffer, size,
+        [](const SK_Core &, std::uint8_t *) -> std::uint32_t { return SK_STS_SUCCESS; });
 }
 
 std::uint32_t SK_ApiSendMessage(const SK_CoreEntry *core, const std::uint32_t *words,
@@ -400,18 +373,14 @@ std::uint32_t SK_ApiSendMessage(const SK_CoreEntry *core, const std::uint32_t *w
 {
     if (!core || !words)
         return SKTL_STS_INVALID_PARAMETER;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        for (std::uint32_t i = 0; i < kMessageWords; ++i)
-            SK_PutU32(r, 32 + 4 * i, words[i]);
-        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_SEND_MESSAGE);
-    });
+    return SK_RunCommand(core, SK_PLAIN_REQUEST_SIZE, __func__,
+                         [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                             SK_PutU32(r, SK_HDR_OPTION, option);
+                             for (std::uint32_t i = 0; i < kMessageWords; ++i)
+                                 SK_PutU32(r, 32 + 4 * i, words[i]);
+                             return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE,
+                                                        SK_CMD_SEND_MESSAGE);
+                         });
 }
 
 std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core, std::uint64_t controllerId,
@@ -419,18 +388,15 @@ std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core, std::ui
 {
     if (!core)
         return SK_STS_INVALID_PCI_ID;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_INVALID_PCI_ID;
-    std::uint8_t *r = request.data();
-    const std::uint32_t status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        SK_PutU64(r, 16, controllerId);
-        SK_PutU32(r, 40, vendor);
-        SK_PutU32(r, 44, device);
-        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_CHECK_PCI_ID);
-    });
+    // Any refusal, a request that can't be allocated among them, is a "no".
+    const std::uint32_t status =
+        SK_RunCommand(core, SK_PLAIN_REQUEST_SIZE, __func__,
+                      [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                          SK_PutU64(r, 16, controllerId);
+                          SK_PutU32(r, 40, vendor);
+                          SK_PutU32(r, 44, device);
+                          return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_CHECK_PCI_ID);
+                      });
     return status == SK_STS_SUCCESS ? static_cast<std::uint32_t>(SK_STS_SUCCESS)
                                     : static_cast<std::uint32_t>(SK_STS_INVALID_PCI_ID);
 }
@@ -440,17 +406,12 @@ std::uint32_t SK_ApiSetControllerWwid(const SK_CoreEntry *core, std::uint64_t fi
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(kWwidRequestSize, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        SK_PutU64(r, 32, first);
-        SK_PutU64(r, 40, second);
-        return open.SK_ConfigWrite(r, kWwidRequestSize, SK_CMD_SET_WWID);
-    });
+    return SK_RunCommand(core, kWwidRequestSize, __func__,
+                         [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                             SK_PutU64(r, 32, first);
+                             SK_PutU64(r, 40, second);
+                             return open.SK_ConfigWrite(r, kWwidRequestSize, SK_CMD_SET_WWID);
+                         });
 }
 
 std::uint32_t SK_ApiGetArrayMap(const SK_CoreEntry *core, const char *arrayName,
@@ -458,28 +419,21 @@ std::uint32_t SK_ApiGetArrayMap(const SK_CoreEntry *core, const char *arrayName,
 {
     if (!core || !arrayName || !buffer)
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = SK_CheckArrayName(core, arrayName);
+    const std::uint32_t status = SK_CheckArrayName(core, arrayName);
     if (status != SK_STS_SUCCESS)
         return status;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer reply(SK_ARRAY_MAP_SIZE, __func__);
-    if (!reply.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = reply.data();
-    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, reply.size());
-        const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
-        if (!array)
-            return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-        SK_PutU32(r, SK_HDR_OPTION, 1);
-        SK_PutU64(r, 36, array->ID);
-        SK_PutU16(r, 44, array->DeviceRoute);
-        SK_PutU16(r, 46, array->CoreRoute);
-        SK_PutU32(r, 52, SK_ARRAY_MAP_SIZE);
-        SK_PutU32(r, 56, option);
-        return open.SK_ConfigRead(r, SK_ARRAY_MAP_SIZE, SK_READ_ARRAY_MAP, 0);
-    });
-    if (status == SK_STS_SUCCESS)
-        std::memcpy(buffer, r, SK_ARRAY_MAP_SIZE);
-    return status;
+    // The map is a whole number of sectors larger than 8192 bytes: the driver is asked
+    // for the map's size, in a block of that size.
+    static_assert(SK_ARRAY_MAP_SIZE % 512 == 0 && SK_ARRAY_MAP_SIZE >= SK_READ_REPLY_SIZE);
+    return SK_ReadInto(core, __func__, SK_READ_ARRAY_MAP, buffer, SK_ARRAY_MAP_SIZE,
+                       [&](const SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                           const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
+                           if (!array)
+                               return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
+                           SK_PutU32(r, SK_HDR_OPTION, 1);
+                           SK_PutArrayReference(r, 36, *array);
+                           SK_PutU32(r, 52, SK_ARRAY_MAP_SIZE);
+                           SK_PutU32(r, 56, option);
+                           return SK_STS_SUCCESS;
+                       });
 }

@@ -29,16 +29,21 @@ std::vector<const SK_C_PhysicalDevice *> managedDisks(const SK_Core &open)
     return disks;
 }
 
-std::uint32_t checkDiskListArguments(const SK_CoreEntry *core, std::uint32_t count,
-                                     const SK_DeviceName *list, std::uint32_t all)
+// A disk request is the list form with one reference.
+static_assert(SK_ListRequestSize(1) == SK_DISK_REQUEST_SIZE);
+
+// Sends the setting `subcode` for one disk (command 29) on `open`; 11 when the core
+// has no such disk.
+std::uint32_t sendDiskSetting(SK_Core &open, std::uint8_t *r, const SK_C_PhysicalDevice *d,
+                              std::uint32_t subcode, std::uint32_t option)
 {
-    if (!core || (count == 0 && !all))
-        return SKTL_STS_INVALID_PARAMETER;
-    if (all)
-        return SK_STS_SUCCESS;
-    if (!list)
-        return SKTL_STS_INVALID_PARAMETER;
-    return SK_CheckDiskList(core, list, count);
+    if (!d)
+        return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+    SK_PutU32(r, SK_HDR_OPTION, option);
+    SK_PutU32(r, disk::Subcode, subcode);
+    SK_PutU32(r, disk::Count, 1);
+    SK_PutDiskReference(r, disk::References, *d);
+    return open.SK_ConfigWrite(r, SK_DISK_REQUEST_SIZE, SK_CMD_MANAGE_DISK);
 }
 
 // Runs `send(entry)` for `core`, or with `allCores` for each core the enumeration
@@ -60,6 +65,20 @@ std::uint32_t forCores(const SK_CoreEntry *core, std::uint32_t allCores, const c
         status = send(&entries[i]);
     SKTL_Free(entries);
     return status;
+}
+
+// Under the lock, one plain request serves `send(entry, request)` for each core that
+// forCores() picks.
+template <class Send>
+std::uint32_t sendToCores(const SK_CoreEntry *core, std::uint32_t allCores, const char *tag,
+                          Send &&send)
+{
+    SKTL_LockGuard lock;
+    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, tag);
+    if (!request.ok())
+        return SK_STS_NO_MEMORY_AVAILABLE;
+    return forCores(core, allCores, tag,
+                    [&](const SK_CoreEntry *entry) { return send(entry, request); });
 }
 
 std::uint32_t roundUp512(std::uint32_t size)
@@ -98,27 +117,19 @@ std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint3
     default:
         return SKTL_STS_INVALID_PARAMETER;
     }
-    std::uint32_t status = SK_CheckDiskName(core, name);
+    const std::uint32_t status = SK_CheckDiskName(core, name);
     if (status != SK_STS_SUCCESS)
         return status;
 
     const std::uint32_t bufferSize =
         roundUp512(std::max(size + SK_PASS_THROUGH_DATA_AT, SK_READ_REPLY_SIZE));
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(bufferSize, tag);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
     bool readMade = false;
-    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
+    const auto attempt = [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
         const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, name);
         if (!disk)
             return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
         SK_PutU32(r, SK_HDR_OPTION, 1);
-        SK_PutU64(r, 36, disk->ID);
-        SK_PutU16(r, 44, disk->DeviceRoute);
-        SK_PutU16(r, 46, disk->CoreRoute);
+        SK_PutDiskReference(r, 36, *disk);
         std::memcpy(r + 52, body + 4, blockSize);
         SK_PutU32(r, 148, SK_GetU32(body, lengthAt));
         SK_PutU32(r, 152, size);
@@ -131,20 +142,25 @@ std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint3
         readMade = true;
         return open.SK_ConfigRead(
             r, bufferSize, isRead ? SK_READ_PASS_THROUGH_READ : SK_READ_PASS_THROUGH_WRITE, 0);
-    });
-    if (!readMade)
-        return status;
-    if (statusOut) {
-        statusOut[0] = SK_GetU32(r, 0);
-        statusOut[1] = SK_GetU32(r, 4);
-    }
-    if (descriptor->Kind == 3) {
-        // The driver answers the block in place; its last 16 bytes carry the completion.
-        std::memcpy(reinterpret_cast<std::uint8_t *>(descriptor) + 40, r + 52 + 36, 16);
-    }
-    if (status == SK_STS_SUCCESS && isRead && size != 0)
-        std::memcpy(readInto, r + SK_PASS_THROUGH_DATA_AT, size);
-    return status;
+    };
+    // Once a transfer was made the device status is handed back, also when the driver
+    // refused it, from the block as the last try left it.
+    const auto finish = [&](std::uint32_t sent, const std::uint8_t *r) -> std::uint32_t {
+        if (!readMade)
+            return sent;
+        if (statusOut) {
+            statusOut[0] = SK_GetU32(r, 0);
+            statusOut[1] = SK_GetU32(r, 4);
+        }
+        if (descriptor->Kind == 3) {
+            // The driver answers the block in place; its last 16 bytes carry the completion.
+            std::memcpy(reinterpret_cast<std::uint8_t *>(descriptor) + 40, r + 52 + 36, 16);
+        }
+        if (sent == SK_STS_SUCCESS && isRead && size != 0)
+            std::memcpy(readInto, r + SK_PASS_THROUGH_DATA_AT, size);
+        return sent;
+    };
+    return SK_RunCommand(core, bufferSize, tag, attempt, finish);
 }
 
 } // namespace
@@ -153,15 +169,16 @@ std::uint32_t SK_ApiManagePhysicalDevice(const SK_CoreEntry *core, std::uint32_t
                                          const SK_DeviceName *list, std::uint32_t all,
                                          std::uint32_t subcode, std::uint32_t option)
 {
-    std::uint32_t status = checkDiskListArguments(core, count, list, all);
+    std::uint32_t status = SK_CheckDiskListArguments(core, count, list, all);
     if (status != SK_STS_SUCCESS)
         return status;
 
+    // One request serves every disk, each with its own tries, so the lock and the
+    // allocation are spelt out here.
     SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_ListRequestSize(1), __func__);
+    SKTL_AlignedBuffer request(SK_DISK_REQUEST_SIZE, __func__);
     if (!request.ok())
         return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
 
     std::vector<std::uint64_t> everyDisk;
     if (all) {
@@ -175,18 +192,10 @@ std::uint32_t SK_ApiManagePhysicalDevice(const SK_CoreEntry *core, std::uint32_t
     // Each disk is its own request on a fresh core: a setting raises the generation,
     // so the next disk's request must quote the new one.
     for (std::size_t i = 0; i < targets; ++i) {
-        status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-            std::memset(r, 0, request.size());
+        status = SK_RetryRequest(core, request, [&](SK_Core &open, std::uint8_t *r) {
             const SK_C_PhysicalDevice *d =
                 all ? SK_LookupDiskById(open, everyDisk[i]) : SK_LookupDisk(open, list[i]);
-            if (!d)
-                return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-            SK_PutU32(r, SK_HDR_OPTION, option);
-            SK_PutU32(r, disk::Subcode, subcode);
-            SK_PutU32(r, disk::Count, 1);
-            SK_PutDiskReference(r, disk::References, *d);
-            return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
-                                       SK_CMD_MANAGE_DISK);
+            return sendDiskSetting(open, r, d, subcode, option);
         });
         if (status != SK_STS_SUCCESS)
             return status;
@@ -202,33 +211,22 @@ std::uint32_t SK_ApiManagePhysicalDeviceBuf(const SK_CoreEntry *core, std::uint3
 {
     if (!core || !list || count != 1)
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = SK_CheckDiskName(core, list[0]);
+    const std::uint32_t status = SK_CheckDiskName(core, list[0]);
     if (status != SK_STS_SUCCESS)
         return status;
 
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_DISK_REQUEST_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_PhysicalDevice *d = SK_LookupDisk(open, list[0]);
-        if (!d)
-            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, disk::Subcode, subcode);
-        SK_PutU32(r, disk::Count, 1);
-        SK_PutDiskReference(r, disk::References, *d);
-        const std::uint32_t sent = open.SK_ConfigWrite(r, SK_DISK_REQUEST_SIZE, SK_CMD_MANAGE_DISK);
-        if (sent != SK_STS_SUCCESS)
-            return sent;
-        // The driver keeps the reply for the channel that asked, so it is read on the
-        // same core before the channel closes.
-        if (subcode < SK_DISK_REPLY_FIRST || subcode > SK_DISK_SMART_ATA || !replyBuffer)
-            return SKTL_STS_INVALID_PARAMETER;
-        return open.SK_ConfigRead(replyBuffer, replySize, SK_READ_DISK_REPLY, 0);
-    });
+    return SK_RunCommand(
+        core, SK_DISK_REQUEST_SIZE, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            const std::uint32_t sent =
+                sendDiskSetting(open, r, SK_LookupDisk(open, list[0]), subcode, option);
+            if (sent != SK_STS_SUCCESS)
+                return sent;
+            // The driver keeps the reply for the channel that asked, so it is read on the
+            // same core before the channel closes.
+            if (subcode < SK_DISK_REPLY_FIRST || subcode > SK_DISK_SMART_ATA || !replyBuffer)
+                return SKTL_STS_INVALID_PARAMETER;
+            return open.SK_ConfigRead(replyBuffer, replySize, SK_READ_DISK_REPLY, 0);
+        });
 }
 
 std::uint32_t SK_ApiDirectManagePhysicalDevice(const SK_CoreEntry *core, std::uint32_t count,
@@ -291,37 +289,29 @@ std::uint32_t SK_ApiManageSpare(const SK_CoreEntry *core, const char *arrayName,
         global == 1 ? (adding ? SK_MANAGE_GLOBAL_SPARE_ADD : SK_MANAGE_GLOBAL_SPARE_REMOVE)
                     : (adding ? SK_MANAGE_DEDICATED_SPARE_ADD : SK_MANAGE_DEDICATED_SPARE_REMOVE);
 
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_ListRequestSize(count), __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, 32, subcode);
-        if (global != 1) {
-            const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
-            if (!array)
-                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-            SK_PutU64(r, 36, array->ID);
-            SK_PutU16(r, 44, array->DeviceRoute);
-            SK_PutU16(r, 46, array->CoreRoute);
-        }
-        SK_PutU32(r, 52, count);
-        const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, 92);
-        if (resolved != SK_STS_SUCCESS)
-            return resolved;
-        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
-                                   SK_CMD_MANAGE_ARRAY);
-    });
+    const std::uint32_t size = SK_ListRequestSize(count);
+    return SK_RunCommand(
+        core, size, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            SK_PutU32(r, 32, subcode);
+            if (global != 1) {
+                const std::uint32_t resolved = SK_ResolveArray(open, arrayName, r, 36);
+                if (resolved != SK_STS_SUCCESS)
+                    return resolved;
+            }
+            SK_PutU32(r, 52, count);
+            const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, 92);
+            if (resolved != SK_STS_SUCCESS)
+                return resolved;
+            return open.SK_ConfigWrite(r, size, SK_CMD_MANAGE_ARRAY);
+        });
 }
 
 std::uint32_t SK_ApiInitializePhysicalDevice(const SK_CoreEntry *core, std::uint32_t count,
                                              const SK_DeviceName *list, std::uint32_t all,
                                              std::uint32_t mode, std::uint32_t option)
 {
-    const std::uint32_t status = checkDiskListArguments(core, count, list, all);
+    const std::uint32_t status = SK_CheckDiskListArguments(core, count, list, all);
     if (status != SK_STS_SUCCESS)
         return status;
 
@@ -361,18 +351,14 @@ std::uint32_t SK_ApiRescan(const SK_CoreEntry *core, std::uint32_t allCores, std
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return forCores(core, allCores, __func__, [&](const SK_CoreEntry *entry) {
-        return SK_WithFreshCore(entry, [&](SK_Core &open) -> std::uint32_t {
-            std::memset(r, 0, request.size());
-            SK_PutU32(r, SK_HDR_OPTION, option);
-            return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_RESCAN);
+    return sendToCores(
+        core, allCores, __func__,
+        [&](const SK_CoreEntry *entry, const SKTL_AlignedBuffer &request) {
+            return SK_RetryRequest(entry, request, [&](SK_Core &open, std::uint8_t *r) {
+                SK_PutU32(r, SK_HDR_OPTION, option);
+                return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_RESCAN);
+            });
         });
-    });
 }
 
 std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores, std::uint32_t,
@@ -380,19 +366,19 @@ std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores, std::
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return forCores(core, allCores, __func__, [&](const SK_CoreEntry *entry) -> std::uint32_t {
-        SK_Core open(entry->BusName, entry->CoreName, 0);
-        if (open.Handle == 0)
-            return SK_STS_INVALID_CORE_HANDLE;
-        std::memset(r, 0, request.size());
-        SK_PutU32(r, 32, on);
-        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, on ? SK_CMD_BUZZ_ON : SK_CMD_BUZZ_OFF);
-    });
+    // Each core is tried once, without going round on 38.
+    return sendToCores(
+        core, allCores, __func__,
+        [&](const SK_CoreEntry *entry, const SKTL_AlignedBuffer &request) -> std::uint32_t {
+            SK_Core open(entry->BusName, entry->CoreName, 0);
+            if (open.Handle == 0)
+                return SK_STS_INVALID_CORE_HANDLE;
+            std::uint8_t *r = request.data();
+            std::memset(r, 0, request.size());
+            SK_PutU32(r, 32, on);
+            return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE,
+                                       on ? SK_CMD_BUZZ_ON : SK_CMD_BUZZ_OFF);
+        });
 }
 
 std::uint32_t SK_ApiPhysicalDevicePassThroughRead(const SK_CoreEntry *core, const char *name,
@@ -425,34 +411,20 @@ std::uint32_t SK_ApiReadDiskMetaData(const SK_CoreEntry *core, const char *name,
         return SKTL_STS_INVALID_PARAMETER;
     if (size > SK_METADATA_READ_MAX)
         return SKTL_STS_INVALID_BUFFER;
-    std::uint32_t status = SK_CheckDiskName(core, name);
+    const std::uint32_t status = SK_CheckDiskName(core, name);
     if (status != SK_STS_SUCCESS)
         return status;
 
-    // Every read sends 8192 bytes first, so the block is never smaller.
-    const std::uint32_t replySize = roundUp512(std::max(size, 1u));
-    const std::uint32_t bufferSize = std::max(replySize, SK_READ_REPLY_SIZE);
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(bufferSize, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_PhysicalDevice *d = SK_LookupDisk(open, name);
-        if (!d)
-            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU64(r, 36, d->ID);
-        SK_PutU16(r, 44, d->DeviceRoute);
-        SK_PutU16(r, 46, d->CoreRoute);
-        SK_PutU64(r, 52, sector);
-        SK_PutU32(r, 60, size / 512);
-        return open.SK_ConfigRead(r, replySize, SK_READ_METADATA, 0);
-    });
-    if (status == SK_STS_SUCCESS)
-        std::memcpy(buffer, r, size);
-    return status;
+    return SK_ReadInto(core, __func__, SK_READ_METADATA, buffer, size,
+                       [&](const SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                           const std::uint32_t resolved = SK_ResolveDisk(open, name, r, 36);
+                           if (resolved != SK_STS_SUCCESS)
+                               return resolved;
+                           SK_PutU32(r, SK_HDR_OPTION, option);
+                           SK_PutU64(r, 52, sector);
+                           SK_PutU32(r, 60, size / 512);
+                           return SK_STS_SUCCESS;
+                       });
 }
 
 std::uint32_t SK_IsValidMetaDataHeader(const std::uint8_t *data, std::uint32_t size)

@@ -23,7 +23,8 @@ std::uint64_t regionTableAt(const std::uint8_t *image)
 
 // Sends `size` bytes as numbered blocks of up to 4096 bytes. `describe(request)` fills
 // the fields that name the target; each block gets its own fresh core, since a block
-// the driver takes may move the generation on.
+// the driver takes may move the generation on. One request serves every block, so the
+// lock and the allocation are spelt out here.
 template <class Describe>
 std::uint32_t sendBlocks(const SK_CoreEntry *core, const char *tag, std::uint32_t command,
                          const std::uint8_t *data, std::uint32_t size, std::uint32_t option,
@@ -33,28 +34,27 @@ std::uint32_t sendBlocks(const SK_CoreEntry *core, const char *tag, std::uint32_
     SKTL_AlignedBuffer request(SK_BLOCK_REQUEST_SIZE, tag);
     if (!request.ok())
         return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
     const std::uint32_t crc = SK_Crc32(data, size);
     const std::uint32_t blocks = (size + SK_FIRMWARE_BLOCK_SIZE - 1) / SK_FIRMWARE_BLOCK_SIZE;
     for (std::uint32_t block = 0; block < blocks; ++block) {
         const std::uint32_t offset = block * SK_FIRMWARE_BLOCK_SIZE;
         const std::uint32_t length = std::min(SK_FIRMWARE_BLOCK_SIZE, size - offset);
-        const std::uint32_t status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-            std::memset(r, 0, request.size());
-            const std::uint32_t described = describe(open, r);
-            if (described != SK_STS_SUCCESS)
-                return described;
-            SK_PutU32(r, SK_HDR_OPTION, option);
-            SK_PutU32(r, SK_FirmwareBlock::TotalSize, size);
-            SK_PutU32(r, SK_FirmwareBlock::Crc, crc);
-            SK_PutU32(r, SK_FirmwareBlock::Sequence, block);
-            SK_PutU32(r, SK_FirmwareBlock::BlockCount, blocks);
-            SK_PutU32(r, SK_FirmwareBlock::Offset, offset);
-            SK_PutU32(r, SK_FirmwareBlock::Size, length);
-            SK_PutU32(r, SK_FirmwareBlock::Last, block + 1 == blocks ? 1 : 0);
-            std::memcpy(r + SK_FIRMWARE_DATA_AT, data + offset, length);
-            return open.SK_ConfigWrite(r, SK_BLOCK_REQUEST_SIZE, command);
-        });
+        const std::uint32_t status =
+            SK_RetryRequest(core, request, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                const std::uint32_t described = describe(open, r);
+                if (described != SK_STS_SUCCESS)
+                    return described;
+                SK_PutU32(r, SK_HDR_OPTION, option);
+                SK_PutU32(r, SK_FirmwareBlock::TotalSize, size);
+                SK_PutU32(r, SK_FirmwareBlock::Crc, crc);
+                SK_PutU32(r, SK_FirmwareBlock::Sequence, block);
+                SK_PutU32(r, SK_FirmwareBlock::BlockCount, blocks);
+                SK_PutU32(r, SK_FirmwareBlock::Offset, offset);
+                SK_PutU32(r, SK_FirmwareBlock::Size, length);
+                SK_PutU32(r, SK_FirmwareBlock::Last, block + 1 == blocks ? 1 : 0);
+                std::memcpy(r + SK_FIRMWARE_DATA_AT, data + offset, length);
+                return open.SK_ConfigWrite(r, SK_BLOCK_REQUEST_SIZE, command);
+            });
         if (status != SK_STS_SUCCESS)
             return status;
     }
@@ -176,20 +176,11 @@ std::uint32_t SK_ApiReadFirmware(const SK_CoreEntry *core, std::uint64_t control
 {
     if (!core || !buffer)
         return SKTL_STS_INVALID_PARAMETER;
-    const std::uint32_t replySize = (std::max(size, 1u) + 511u) & ~511u;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer reply(std::max(replySize, SK_READ_REPLY_SIZE), __func__);
-    if (!reply.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = reply.data();
-    const std::uint32_t status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, reply.size());
-        SK_PutU64(r, 36, controllerId);
-        SK_PutU32(r, 48, size);
-        SK_PutU32(r, 52, address);
-        return open.SK_ConfigRead(r, replySize, SK_READ_FIRMWARE, 0);
-    });
-    if (status == SK_STS_SUCCESS)
-        std::memcpy(buffer, r, size);
-    return status;
+    return SK_ReadInto(core, __func__, SK_READ_FIRMWARE, buffer, size,
+                       [&](const SK_Core &, std::uint8_t *r) -> std::uint32_t {
+                           SK_PutU64(r, 36, controllerId);
+                           SK_PutU32(r, 48, size);
+                           SK_PutU32(r, 52, address);
+                           return SK_STS_SUCCESS;
+                       });
 }

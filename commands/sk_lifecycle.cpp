@@ -27,9 +27,10 @@ constexpr std::size_t InfoShift = 4;
 
 // Transform request (command 8) and its planning read (4108).
 namespace transform {
-constexpr std::size_t Type = 32, Id = 36, DeviceRoute = 44, CoreRoute = 46, DriveCount = 52,
-                      SpareCount = 56, Stripe = 60, Capacity = 64, First = 72, Second = 76, P2 = 80,
-                      P1 = 84, P0 = 88, Spares = 92, Drives = 156;
+// The array's reference fills 36 to 51: ID, DeviceRoute at 44, CoreRoute at 46.
+constexpr std::size_t Type = 32, Reference = 36, DriveCount = 52, SpareCount = 56, Stripe = 60,
+                      Capacity = 64, First = 72, Second = 76, P2 = 80, P1 = 84, P0 = 88,
+                      Spares = 92, Drives = 156;
 constexpr std::size_t InfoShift = 4;
 } // namespace transform
 
@@ -70,12 +71,6 @@ std::uint32_t checkCacheTagSize(std::uint32_t cacheTagSize)
         std::fflush(stdout);
     }
     return status;
-}
-
-// Spare names beyond the list's end are never read.
-std::uint32_t spareNamesTaken(std::uint32_t spareCount, const SK_DeviceName *spares)
-{
-    return spares ? std::min(spareCount, SK_MAX_SPARE_NAMES) : 0;
 }
 
 // Both lists must name the one core of the entry.
@@ -130,6 +125,128 @@ std::uint32_t putSpares(const SK_Core &core, const SK_DeviceName *spares, std::u
     return resolved;
 }
 
+// The shape of an array as a create, a transform and their planning reads send it.
+struct Layout
+{
+    std::uint32_t type, driveCount, spareCount, stripe;
+    std::uint64_t capacity;
+    std::uint32_t first, second;
+    const SK_DeviceName *drives, *spares;
+    std::uint32_t p0, p1, p2;
+
+    // Spare names beyond the list's end are never read.
+    std::uint32_t spareNames() const
+    {
+        return spares ? std::min(spareCount, SK_MAX_SPARE_NAMES) : 0;
+    }
+};
+
+// Checks of a create or its planning read made before the lock, once its shape is
+// known to be sound: the cache tag size, then both lists.
+std::uint32_t checkCreate(const SK_CoreEntry *core, std::uint32_t cacheTagSize, const Layout &l)
+{
+    const std::uint32_t status = checkCacheTagSize(cacheTagSize);
+    if (status != SK_STS_SUCCESS)
+        return status;
+    return checkLists(core, l.driveCount, l.spareNames(), l.drives, l.spares);
+}
+
+// The same for a transform or its planning read: the array's name, then both lists.
+std::uint32_t checkTransform(const SK_CoreEntry *core, const char *arrayName, const Layout &l)
+{
+    const std::uint32_t status = SK_CheckArrayName(core, arrayName);
+    if (status != SK_STS_SUCCESS)
+        return status;
+    return checkLists(core, l.driveCount, l.spareNames(), l.drives, l.spares);
+}
+
+// Writes the fields of a create, `shift` bytes further on for its planning read,
+// except the option, the ID and the display name. Returns 1, or 10 or 11 for a drive
+// that can't be resolved.
+std::uint32_t putCreate(const SK_Core &open, const Layout &l, std::uint32_t cacheTagSize,
+                        std::uint32_t policy, std::uint8_t *r, std::size_t shift)
+{
+    bool anyNvme = false;
+    const std::uint32_t resolved =
+        putDrives(open, l.type, l.drives, l.driveCount, r, create::Drives + shift, anyNvme);
+    if (resolved != SK_STS_SUCCESS)
+        return resolved;
+    std::uint32_t tagCode = 0;
+    SK_CacheTagCode(cacheTagSize, anyNvme, &tagCode);
+    SK_PutU32(r, create::Type + shift, l.type);
+    SK_PutU32(r, create::DriveCount + shift, l.driveCount);
+    SK_PutU32(r, create::SpareCount + shift,
+              putSpares(open, l.spares, l.spareNames(), r, create::Spares + shift));
+    SK_PutU32(r, create::CacheTag + shift, tagCode);
+    SK_PutU32(r, create::Stripe + shift, l.stripe);
+    SK_PutU32(r, create::Policy + shift, policy);
+    SK_PutU64(r, create::Capacity + shift, l.capacity);
+    SK_PutU32(r, create::First + shift, l.first);
+    SK_PutU32(r, create::Second + shift, l.second);
+    SK_PutU32(r, create::P2 + shift, l.p2);
+    SK_PutU32(r, create::P1 + shift, l.p1);
+    SK_PutU32(r, create::P0 + shift, l.p0);
+    return SK_STS_SUCCESS;
+}
+
+// Writes the fields of a transform of the named array, `shift` bytes further on for
+// its planning read, except the option; `idOut` receives the array's ID once every
+// name is resolved. Returns 1, or 10 or 11 for a name that can't be resolved.
+std::uint32_t putTransform(const SK_Core &open, const char *arrayName, const Layout &l,
+                           std::uint8_t *r, std::size_t shift, std::uint64_t *idOut)
+{
+    const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
+    if (!array)
+        return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
+    bool anyNvme = false; // a transform sends no cache tag
+    const std::uint32_t resolved =
+        putDrives(open, l.type, l.drives, l.driveCount, r, transform::Drives + shift, anyNvme);
+    if (resolved != SK_STS_SUCCESS)
+        return resolved;
+    if (idOut)
+        *idOut = array->ID;
+    SK_PutU32(r, transform::Type + shift, l.type);
+    SK_PutArrayReference(r, transform::Reference + shift, *array);
+    SK_PutU32(r, transform::DriveCount + shift, l.driveCount);
+    SK_PutU32(r, transform::SpareCount + shift,
+              putSpares(open, l.spares, l.spareNames(), r, transform::Spares + shift));
+    SK_PutU32(r, transform::Stripe + shift, l.stripe);
+    SK_PutU64(r, transform::Capacity + shift, l.capacity);
+    SK_PutU32(r, transform::First + shift, l.first);
+    SK_PutU32(r, transform::Second + shift, l.second);
+    SK_PutU32(r, transform::P2 + shift, l.p2);
+    SK_PutU32(r, transform::P1 + shift, l.p1);
+    SK_PutU32(r, transform::P0 + shift, l.p0);
+    return SK_STS_SUCCESS;
+}
+
+// A planning read of `readCode`: `put(core, request)` writes the fields or refuses
+// with a status, then the option goes in and the read is made. `infoSize` bytes of
+// the reply go to `infoOut` whenever a read was made, also when the driver refused
+// it, from the block as the last try left it.
+template <class Put>
+std::uint32_t planningRead(const SK_CoreEntry *core, const char *tag, std::uint32_t readCode,
+                           std::uint32_t option, std::uint8_t *infoOut, std::size_t infoSize,
+                           Put &&put)
+{
+    bool readMade = false;
+    return SK_RunCommand(
+        core, SK_READ_REPLY_SIZE, tag,
+        [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            const std::uint32_t resolved = put(open, r);
+            if (resolved != SK_STS_SUCCESS)
+                return resolved;
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            readMade = true;
+            return open.SK_ConfigRead(r, SK_READ_REPLY_SIZE, readCode, 0);
+        },
+        [&](std::uint32_t read, const std::uint8_t *reply) {
+            if (readMade && infoOut)
+                std::memcpy(infoOut, reply, infoSize);
+            return read;
+        });
+}
+
 // Draws an ID no array of the core has. Between rounds the lock is let go for a
 // second so the time, and with it the seed, moves on.
 std::uint32_t drawArrayId(const SK_CoreEntry *core, std::uint64_t &id)
@@ -155,22 +272,18 @@ std::uint32_t drawArrayId(const SK_CoreEntry *core, std::uint64_t &id)
 // Clears the metadata of one legacy disk that a deleted legacy array leaves behind.
 void resetLegacyDisk(const SK_CoreEntry *core, std::uint64_t diskId, std::uint32_t option)
 {
-    SKTL_AlignedBuffer request(SK_PaddedListRequestSize(1), "SK_ApiDeleteLogicalDevice");
-    if (!request.ok())
-        return;
-    std::uint8_t *r = request.data();
-    SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_PhysicalDevice *disk = SK_LookupDiskById(open, diskId);
-        if (!disk)
-            return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, 36, 1);
-        SK_PutU32(r, 40, kClearMetadata);
-        SK_PutDiskReference(r, 44, *disk);
-        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
-                                   SK_CMD_INITIALIZE);
-    });
+    const std::uint32_t size = SK_PaddedListRequestSize(1);
+    SK_RunCommand(core, size, "SK_ApiDeleteLogicalDevice",
+                  [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                      const SK_C_PhysicalDevice *disk = SK_LookupDiskById(open, diskId);
+                      if (!disk)
+                          return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
+                      SK_PutU32(r, SK_HDR_OPTION, option);
+                      SK_PutU32(r, 36, 1);
+                      SK_PutU32(r, 40, kClearMetadata);
+                      SK_PutDiskReference(r, 44, *disk);
+                      return open.SK_ConfigWrite(r, size, SK_CMD_INITIALIZE);
+                  });
 }
 
 std::uint32_t waitIfAsked(const SK_CoreEntry *core, std::uint32_t status, std::uint32_t wait,
@@ -235,17 +348,18 @@ std::uint32_t SK_ApiCreateLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
     if (!core || !isCreateType(type) || !shapeMatches(first, second, driveCount, drives) ||
         capacity == 0)
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = checkCacheTagSize(cacheTagSize);
-    if (status != SK_STS_SUCCESS)
-        return status;
-    const std::uint32_t spareNames = spareNamesTaken(spareCount, spares);
-    status = checkLists(core, driveCount, spareNames, drives, spares);
+    const Layout layout{type,   driveCount, spareCount, stripe, capacity, first,
+                        second, drives,     spares,     p0,     p1,       p2};
+    std::uint32_t status = checkCreate(core, cacheTagSize, layout);
     if (status != SK_STS_SUCCESS)
         return status;
 
     {
+        // The ID is drawn between the allocation and the first try, with the lock let
+        // go between its rounds, so the lock and the allocation are spelt out here.
         SKTL_LockGuard lock;
-        SKTL_AlignedBuffer request(SK_ListRequestSize(driveCount), __func__);
+        const std::uint32_t size = SK_ListRequestSize(driveCount);
+        SKTL_AlignedBuffer request(size, __func__);
         if (!request.ok())
             return SK_STS_NO_MEMORY_AVAILABLE;
         if (id == 0) {
@@ -253,39 +367,20 @@ std::uint32_t SK_ApiCreateLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
             if (status != SK_STS_SUCCESS)
                 return status;
         }
-        std::uint8_t *r = request.data();
-        status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-            std::memset(r, 0, request.size());
-            bool anyNvme = false;
-            std::uint32_t resolved =
-                putDrives(open, type, drives, driveCount, r, create::Drives, anyNvme);
-            if (resolved != SK_STS_SUCCESS)
-                return resolved;
-            std::uint32_t tagCode = 0;
-            SK_CacheTagCode(cacheTagSize, anyNvme, &tagCode);
-            SK_PutU32(r, SK_HDR_OPTION, 0);
-            SK_PutU32(r, create::Type, type);
-            SK_PutU32(r, create::DriveCount, driveCount);
-            SK_PutU32(r, create::SpareCount,
-                      putSpares(open, spares, spareNames, r, create::Spares));
-            SK_PutU32(r, create::CacheTag, tagCode);
-            SK_PutU32(r, create::Stripe, stripe);
-            SK_PutU32(r, create::Policy, policy);
-            SK_PutU64(r, create::Capacity, capacity);
-            SK_PutU64(r, create::Id, id);
-            SK_PutU32(r, create::First, first);
-            SK_PutU32(r, create::Second, second);
-            SK_PutU32(r, create::P2, p2);
-            SK_PutU32(r, create::P1, p1);
-            SK_PutU32(r, create::P0, p0);
-            if (name) {
-                const std::size_t length =
-                    std::min<std::size_t>(nameLength, strnlen(name, SK_DISPLAY_NAME_SIZE));
-                std::memcpy(r + create::Name, name, length);
-            }
-            return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
-                                       SK_CMD_CREATE);
-        });
+        status =
+            SK_RetryRequest(core, request, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                const std::uint32_t resolved = putCreate(open, layout, cacheTagSize, policy, r, 0);
+                if (resolved != SK_STS_SUCCESS)
+                    return resolved;
+                SK_PutU32(r, SK_HDR_OPTION, 0);
+                SK_PutU64(r, create::Id, id);
+                if (name) {
+                    const std::size_t length =
+                        std::min<std::size_t>(nameLength, strnlen(name, SK_DISPLAY_NAME_SIZE));
+                    std::memcpy(r + create::Name, name, length);
+                }
+                return open.SK_ConfigWrite(r, size, SK_CMD_CREATE);
+            });
     }
     if (status != SK_STS_SUCCESS)
         return status;
@@ -321,51 +416,17 @@ std::uint32_t SK_ApiGetCreateInfo(const SK_CoreEntry *core, std::uint32_t type,
 {
     if (!core || !isCreateType(type) || !shapeMatches(first, second, driveCount, drives))
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = checkCacheTagSize(cacheTagSize);
-    if (status != SK_STS_SUCCESS)
-        return status;
-    const std::uint32_t spareNames = spareNamesTaken(spareCount, spares);
-    status = checkLists(core, driveCount, spareNames, drives, spares);
+    const Layout layout{type,   driveCount, spareCount, stripe, capacity, first,
+                        second, drives,     spares,     p0,     p1,       p2};
+    const std::uint32_t status = checkCreate(core, cacheTagSize, layout);
     if (status != SK_STS_SUCCESS)
         return status;
 
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_READ_REPLY_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    constexpr std::size_t s = create::InfoShift;
-    bool readMade = false;
-    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        // A refused read leaves a reply in the buffer, so every try starts afresh.
-        std::memset(r, 0, request.size());
-        bool anyNvme = false;
-        const std::uint32_t resolved =
-            putDrives(open, type, drives, driveCount, r, create::Drives + s, anyNvme);
-        if (resolved != SK_STS_SUCCESS)
-            return resolved;
-        std::uint32_t tagCode = 0;
-        SK_CacheTagCode(cacheTagSize, anyNvme, &tagCode);
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, create::Type + s, type);
-        SK_PutU32(r, create::DriveCount + s, driveCount);
-        SK_PutU32(r, create::SpareCount + s,
-                  putSpares(open, spares, spareNames, r, create::Spares + s));
-        SK_PutU32(r, create::CacheTag + s, tagCode);
-        SK_PutU32(r, create::Stripe + s, stripe);
-        SK_PutU32(r, create::Policy + s, policy | SK_POLICY_QUERY);
-        SK_PutU64(r, create::Capacity + s, capacity);
-        SK_PutU32(r, create::First + s, first);
-        SK_PutU32(r, create::Second + s, second);
-        SK_PutU32(r, create::P2 + s, p2);
-        SK_PutU32(r, create::P1 + s, p1);
-        SK_PutU32(r, create::P0 + s, p0);
-        readMade = true;
-        return open.SK_ConfigRead(r, SK_READ_REPLY_SIZE, SK_READ_CREATE_INFO, 0);
-    });
-    if (readMade && infoOut)
-        std::memcpy(infoOut, r, SK_CREATE_INFO_SIZE);
-    return status;
+    return planningRead(core, __func__, SK_READ_CREATE_INFO, option, infoOut, SK_CREATE_INFO_SIZE,
+                        [&](const SK_Core &open, std::uint8_t *r) {
+                            return putCreate(open, layout, cacheTagSize, policy | SK_POLICY_QUERY,
+                                             r, create::InfoShift);
+                        });
 }
 
 std::uint32_t SK_ApiTransformLogicalDevice(const SK_CoreEntry *core, const char *arrayName,
@@ -379,50 +440,21 @@ std::uint32_t SK_ApiTransformLogicalDevice(const SK_CoreEntry *core, const char 
     if (!core || !arrayName || !isTransformType(type) ||
         !shapeMatches(first, second, driveCount, drives) || capacity == 0)
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = SK_CheckArrayName(core, arrayName);
-    if (status != SK_STS_SUCCESS)
-        return status;
-    const std::uint32_t spareNames = spareNamesTaken(spareCount, spares);
-    status = checkLists(core, driveCount, spareNames, drives, spares);
+    const Layout layout{type,   driveCount, spareCount, stripe, capacity, first,
+                        second, drives,     spares,     p0,     p1,       p2};
+    std::uint32_t status = checkTransform(core, arrayName, layout);
     if (status != SK_STS_SUCCESS)
         return status;
 
     std::uint64_t arrayId = 0;
-    {
-        SKTL_LockGuard lock;
-        SKTL_AlignedBuffer request(SK_ListRequestSize(driveCount), __func__);
-        if (!request.ok())
-            return SK_STS_NO_MEMORY_AVAILABLE;
-        std::uint8_t *r = request.data();
-        status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-            std::memset(r, 0, request.size());
-            const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
-            if (!array)
-                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-            bool anyNvme = false;
-            const std::uint32_t resolved =
-                putDrives(open, type, drives, driveCount, r, transform::Drives, anyNvme);
+    const std::uint32_t size = SK_ListRequestSize(driveCount);
+    status =
+        SK_RunCommand(core, size, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            const std::uint32_t resolved = putTransform(open, arrayName, layout, r, 0, &arrayId);
             if (resolved != SK_STS_SUCCESS)
                 return resolved;
-            arrayId = array->ID;
-            SK_PutU32(r, transform::Type, type);
-            SK_PutU64(r, transform::Id, array->ID);
-            SK_PutU16(r, transform::DeviceRoute, array->DeviceRoute);
-            SK_PutU16(r, transform::CoreRoute, array->CoreRoute);
-            SK_PutU32(r, transform::DriveCount, driveCount);
-            SK_PutU32(r, transform::SpareCount,
-                      putSpares(open, spares, spareNames, r, transform::Spares));
-            SK_PutU32(r, transform::Stripe, stripe);
-            SK_PutU64(r, transform::Capacity, capacity);
-            SK_PutU32(r, transform::First, first);
-            SK_PutU32(r, transform::Second, second);
-            SK_PutU32(r, transform::P2, p2);
-            SK_PutU32(r, transform::P1, p1);
-            SK_PutU32(r, transform::P0, p0);
-            return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
-                                       SK_CMD_TRANSFORM);
+            return open.SK_ConfigWrite(r, size, SK_CMD_TRANSFORM);
         });
-    }
     return waitIfAsked(core, status, wait, arrayId);
 }
 
@@ -438,52 +470,17 @@ std::uint32_t SK_ApiGetTransformInfo(const SK_CoreEntry *core, const char *array
     if (!core || !arrayName || !isTransformType(type) ||
         !shapeMatches(first, second, driveCount, drives))
         return SKTL_STS_INVALID_PARAMETER;
-    std::uint32_t status = SK_CheckArrayName(core, arrayName);
-    if (status != SK_STS_SUCCESS)
-        return status;
-    const std::uint32_t spareNames = spareNamesTaken(spareCount, spares);
-    status = checkLists(core, driveCount, spareNames, drives, spares);
+    const Layout layout{type,   driveCount, spareCount, stripe, capacity, first,
+                        second, drives,     spares,     p0,     p1,       p2};
+    const std::uint32_t status = checkTransform(core, arrayName, layout);
     if (status != SK_STS_SUCCESS)
         return status;
 
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_READ_REPLY_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    constexpr std::size_t s = transform::InfoShift;
-    bool readMade = false;
-    status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
-        if (!array)
-            return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-        bool anyNvme = false;
-        const std::uint32_t resolved =
-            putDrives(open, type, drives, driveCount, r, transform::Drives + s, anyNvme);
-        if (resolved != SK_STS_SUCCESS)
-            return resolved;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, transform::Type + s, type);
-        SK_PutU64(r, transform::Id + s, array->ID);
-        SK_PutU16(r, transform::DeviceRoute + s, array->DeviceRoute);
-        SK_PutU16(r, transform::CoreRoute + s, array->CoreRoute);
-        SK_PutU32(r, transform::DriveCount + s, driveCount);
-        SK_PutU32(r, transform::SpareCount + s,
-                  putSpares(open, spares, spareNames, r, transform::Spares + s));
-        SK_PutU32(r, transform::Stripe + s, stripe);
-        SK_PutU64(r, transform::Capacity + s, capacity);
-        SK_PutU32(r, transform::First + s, first);
-        SK_PutU32(r, transform::Second + s, second);
-        SK_PutU32(r, transform::P2 + s, p2);
-        SK_PutU32(r, transform::P1 + s, p1);
-        SK_PutU32(r, transform::P0 + s, p0);
-        readMade = true;
-        return open.SK_ConfigRead(r, SK_READ_REPLY_SIZE, SK_READ_TRANSFORM_INFO, 0);
-    });
-    if (readMade && infoOut)
-        std::memcpy(infoOut, r, SK_TRANSFORM_INFO_SIZE);
-    return status;
+    return planningRead(core, __func__, SK_READ_TRANSFORM_INFO, option, infoOut,
+                        SK_TRANSFORM_INFO_SIZE, [&](const SK_Core &open, std::uint8_t *r) {
+                            return putTransform(open, arrayName, layout, r, transform::InfoShift,
+                                                nullptr);
+                        });
 }
 
 std::uint32_t SK_ApiDeleteLogicalDevice(const SK_CoreEntry *core, std::uint32_t count,
@@ -544,34 +541,27 @@ std::uint32_t SK_ApiSplitLogicalDevice(const SK_CoreEntry *core, const char *arr
 
     SK_DeviceName arrayList[1] = {};
     SK_CopyText(arrayList[0], sizeof arrayList[0], arrayName);
-    std::uint32_t status = checkLists(core, 1, sentCount, arrayList, sentCount ? drives : nullptr);
+    const std::uint32_t status =
+        checkLists(core, 1, sentCount, arrayList, sentCount ? drives : nullptr);
     if (status != SK_STS_SUCCESS)
         return status;
 
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_ListRequestSize(sentCount), __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        const SK_C_LogicalDevice *array = SK_LookupArray(open, arrayName);
-        if (!array)
-            return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-        const std::uint32_t resolved = SK_ResolveDiskList(open, drives, sentCount, r, 68);
-        if (resolved != SK_STS_SUCCESS)
-            return resolved;
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, 32, sentType);
-        SK_PutU64(r, 36, array->ID);
-        SK_PutU16(r, 44, array->DeviceRoute);
-        SK_PutU16(r, 46, array->CoreRoute);
-        SK_PutU32(r, 52, sentCount);
-        SK_PutU32(r, 56, keepShape ? first : 0);
-        SK_PutU32(r, 60, keepShape ? second : 0);
-        SK_PutU32(r, 64, parameter);
-        return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()), SK_CMD_SPLIT);
-    });
+    const std::uint32_t size = SK_ListRequestSize(sentCount);
+    return SK_RunCommand(core, size, __func__,
+                         [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                             std::uint32_t resolved = SK_ResolveArray(open, arrayName, r, 36);
+                             if (resolved == SK_STS_SUCCESS)
+                                 resolved = SK_ResolveDiskList(open, drives, sentCount, r, 68);
+                             if (resolved != SK_STS_SUCCESS)
+                                 return resolved;
+                             SK_PutU32(r, SK_HDR_OPTION, option);
+                             SK_PutU32(r, 32, sentType);
+                             SK_PutU32(r, 52, sentCount);
+                             SK_PutU32(r, 56, keepShape ? first : 0);
+                             SK_PutU32(r, 60, keepShape ? second : 0);
+                             SK_PutU32(r, 64, parameter);
+                             return open.SK_ConfigWrite(r, size, SK_CMD_SPLIT);
+                         });
 }
 
 std::uint32_t SK_ApiCopyLogicalDevice(const SK_CoreEntry *core, const char *source,
@@ -584,34 +574,23 @@ std::uint32_t SK_ApiCopyLogicalDevice(const SK_CoreEntry *core, const char *sour
         SK_CheckArrayName(core, target) != SK_STS_SUCCESS)
         return SK_STS_INVALID_LOGICAL_DEVICE;
 
-    std::uint32_t status = SK_STS_SUCCESS;
     std::uint64_t targetId = 0;
-    {
-        SKTL_LockGuard lock;
-        SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
-        if (!request.ok())
-            return SK_STS_NO_MEMORY_AVAILABLE;
-        std::uint8_t *r = request.data();
-        status = SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-            std::memset(r, 0, request.size());
-            const SK_C_LogicalDevice *from = SK_LookupArray(open, source);
-            const SK_C_LogicalDevice *to = SK_LookupArray(open, target);
-            if (!from || !to)
-                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-            targetId = to->ID;
-            SK_PutU64(r, 32, from->ID);
-            SK_PutU16(r, 40, from->DeviceRoute);
-            SK_PutU16(r, 42, from->CoreRoute);
-            SK_PutU64(r, 48, to->ID);
-            SK_PutU16(r, 56, to->DeviceRoute);
-            SK_PutU16(r, 58, to->CoreRoute);
-            SK_PutU64(r, 64, start << 11);
-            SK_PutU64(r, 72, size << 11);
-            SK_PutU32(r, 80, p0);
-            SK_PutU32(r, 84, p1);
-            return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_COPY);
-        });
-    }
+    const std::uint32_t status =
+        SK_RunCommand(core, SK_PLAIN_REQUEST_SIZE, __func__,
+                      [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                          const SK_C_LogicalDevice *from = SK_LookupArray(open, source);
+                          const SK_C_LogicalDevice *to = SK_LookupArray(open, target);
+                          if (!from || !to)
+                              return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
+                          targetId = to->ID;
+                          SK_PutArrayReference(r, 32, *from);
+                          SK_PutArrayReference(r, 48, *to);
+                          SK_PutU64(r, 64, start << 11);
+                          SK_PutU64(r, 72, size << 11);
+                          SK_PutU32(r, 80, p0);
+                          SK_PutU32(r, 84, p1);
+                          return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_COPY);
+                      });
     return waitIfAsked(core, status, wait, targetId);
 }
 
@@ -620,15 +599,11 @@ std::uint32_t SK_ApiCommitPreviousConfig(const SK_CoreEntry *core, std::uint64_t
 {
     if (!core)
         return SKTL_STS_INVALID_PARAMETER;
-    SKTL_LockGuard lock;
-    SKTL_AlignedBuffer request(SK_PLAIN_REQUEST_SIZE, __func__);
-    if (!request.ok())
-        return SK_STS_NO_MEMORY_AVAILABLE;
-    std::uint8_t *r = request.data();
-    return SK_WithFreshCore(core, [&](SK_Core &open) -> std::uint32_t {
-        std::memset(r, 0, request.size());
-        SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU64(r, 32, generation);
-        return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_COMMIT_PREVIOUS);
-    });
+    return SK_RunCommand(core, SK_PLAIN_REQUEST_SIZE, __func__,
+                         [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+                             SK_PutU32(r, SK_HDR_OPTION, option);
+                             SK_PutU64(r, 32, generation);
+                             return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE,
+                                                        SK_CMD_COMMIT_PREVIOUS);
+                         });
 }
