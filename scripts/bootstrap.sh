@@ -125,7 +125,8 @@ deps) install_deps ;;
 run) install_deps && start_console ;;
 test)
     install_deps
-    configure_and_build build-test -DCMAKE_BUILD_TYPE=Debug -DSK_BUILD_BENCH=ON
+    # Optimised, like the console the run command builds: some warnings only show then.
+    configure_and_build build-test -DCMAKE_BUILD_TYPE=RelWithDebInfo -DSK_BUILD_BENCH=ON
     run_tests build-test
     ;;
 sanitize)

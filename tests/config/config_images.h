@@ -11,9 +11,15 @@ namespace images {
 
 using Bytes = std::vector<std::uint8_t>;
 
-inline void put16(Bytes &b, std::size_t at, std::uint16_t v) { SK_PutU16(b.data(), at, v); }
-inline void put32(Bytes &b, std::size_t at, std::uint32_t v) { SK_PutU32(b.data(), at, v); }
-inline void put64(Bytes &b, std::size_t at, std::uint64_t v) { SK_PutU64(b.data(), at, v); }
+// The `width` bytes at `at`, checked: a record built past its own end is a mistake in
+// the test itself.
+inline std::uint8_t *field(Bytes &b, std::size_t at, std::size_t width)
+{
+    return &b.at(at + width - 1) - (width - 1);
+}
+inline void put16(Bytes &b, std::size_t at, std::uint16_t v) { SK_PutU16(field(b, at, 2), 0, v); }
+inline void put32(Bytes &b, std::size_t at, std::uint32_t v) { SK_PutU32(field(b, at, 4), 0, v); }
+inline void put64(Bytes &b, std::size_t at, std::uint64_t v) { SK_PutU64(field(b, at, 8), 0, v); }
 inline void putText(Bytes &b, std::size_t at, const std::string &text, std::size_t width)
 {
     for (std::size_t i = 0; i < width && i < text.size(); ++i)
@@ -138,7 +144,7 @@ struct Array
     std::uint32_t first = 1, second = 1, cache = 0xC0000000u, percent = 0, attributes = 0;
     std::string displayName = "Array 1";
     std::uint64_t substitute0 = 0, substitute1 = 0;
-    std::vector<Member> members{Member{}};
+    std::vector<Member> members = std::vector<Member>(1);
     std::vector<Reference> parents, spares;
     long long lengthOverride = -1;                 // record length field when >= 0
     long long countOverride[4] = {-1, -1, -1, -1}; // first, second, parents, spares

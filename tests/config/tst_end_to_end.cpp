@@ -76,8 +76,11 @@ TEST_F(EndToEnd, snapshotDescribesTheDefaultWorkstation)
         EXPECT_STREQ(disk->State, "Online");
     }
     // The NVMe disk is free; the mirror's SSDs have only the metadata tail left.
-    EXPECT_GT(value(diskById(*snapshot, m.disks[6].id)->TotalFreeSpace), 3900000000u);
-    EXPECT_LT(value(diskById(*snapshot, m.disks[0].id)->LargestFreeSpace), 2048u);
+    const SK_ConfigDisk *nvme = diskById(*snapshot, m.disks[6].id);
+    const SK_ConfigDisk *ssd = diskById(*snapshot, m.disks[0].id);
+    ASSERT_TRUE(nvme && ssd);
+    EXPECT_GT(value(nvme->TotalFreeSpace), 3900000000u);
+    EXPECT_LT(value(ssd->LargestFreeSpace), 2048u);
 
     ASSERT_EQ(snapshot->ArrayCount, 2);
     const SK_ConfigArray *system = arrayById(*snapshot, m.arrays[0].id);
@@ -114,7 +117,9 @@ TEST_F(EndToEnd, aDegradedArrayRebuildingOntoTheSpareShowsInTheSnapshot)
     EXPECT_LT(data->TransformPercentComplete, 25.0f);
     EXPECT_EQ(value(data->Members[1].DiskId), before.disks[5].id); // the former global spare
     EXPECT_STREQ(data->Members[1].Error, "Offline");
-    EXPECT_STREQ(diskById(*snapshot, before.disks[3].id)->State, "Offline");
+    const SK_ConfigDisk *failed = diskById(*snapshot, before.disks[3].id);
+    ASSERT_NE(failed, nullptr);
+    EXPECT_STREQ(failed->State, "Offline");
 }
 
 TEST_F(EndToEnd, anArrayInTransformFillsBothHalvesOfItsSlot)
