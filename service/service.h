@@ -1,4 +1,6 @@
 #pragma once
 // Array service: SK_RaidApi, the one class between the windows and the commands.
 
-#include "events/events.h"
+#include "service/sk_applog.h"
+#include "service/sk_raidapi.h"
+#include "service/sk_records.h"

@@ -1,0 +1,98 @@
+#pragma once
+// Records that cross between the windows and the array service.
+
+#include "commands/commands.h"
+#include "config/config.h"
+#include "events/events.h"
+
+#include <QMetaType>
+#include <QString>
+
+// The name under which signals and views know one array record of the picture.
+using LogicalDrive = SK_ConfigArray;
+
+// Sector counts as the dialogs pass them around.
+using SK_UINT64 = quint64;
+
+constexpr int SK_MAX_LIST_DISKS = 64;
+
+// One create (or transform) request as the dialogs fill it. Sizes are decimal
+// megabytes; disks are ids in list order.
+struct SK_Create
+{
+    QString name;
+    QString type;
+    qint32 size = 0;
+    QString cache;
+    qint32 cacheTagSize = 0;
+    quint32 disks[SK_MAX_LIST_DISKS] = {};
+    qint32 diskCount = 0;
+    QString diskLabels[SK_MAX_LIST_DISKS];
+    bool backgroundScan = false;
+    bool zeroCreate = false;
+    bool skipInit = false;
+    bool leaveData = false;
+};
+
+struct SK_InitDisks
+{
+    quint32 disks[SK_MAX_LIST_DISKS] = {};
+    qint32 diskCount = 0;
+    quint8 clearMetadata = 0; // 1 from the clear metadata dialog
+};
+
+enum diskManageCMD {
+    READ_CACHE_ON = 0,
+    READ_CACHE_OFF = 1,
+    WRITE_CACHE_ON = 2,
+    WRITE_CACHE_OFF = 3,
+    SMART_ON = 4,
+    SMART_OFF = 5,
+};
+
+struct SK_DiskManage
+{
+    quint32 disks[SK_MAX_LIST_DISKS] = {};
+    qint32 diskCount = 0;
+    quint8 readOn = 0;
+    quint8 writeOn = 0;
+    quint8 smartOn = 0;
+    quint8 readOff = 0;
+    quint8 writeOff = 0;
+    quint8 smartOff = 0;
+};
+
+// The few SMART values of the overview table. `status` says "Failed" unless the disk
+// reported that it has no attributes; callers look at the other fields.
+struct SmartSummary
+{
+    QString status;
+    QString powerOnHours;
+    QString temperature;
+    QString powerCycles;
+};
+
+// The label texts of the status bar's throughput figures.
+struct SK_IoStats
+{
+    QString hostMBps;
+    QString diskMBps;
+    QString hostIOps;
+    QString diskIOps;
+    QString line13;
+    QString line12;
+    QString line18;
+    QString hostBytes;
+    QString diskBytes;
+};
+
+// One entry of the driver's event log as the event view shows it.
+struct SK_EventMessage
+{
+    quint32 number = 0;
+    qint32 code = 0;
+    quint32 priority = 0;
+    QString text;
+    QString text2; // kept empty
+    quint32 status = 0;
+};
