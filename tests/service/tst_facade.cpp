@@ -1,9 +1,533 @@
+// SK_RaidApi's queries and commands against a fresh emulated host. Requests are
+// decoded here from the wire layouts, independently of the command layer's encoders.
+
+#include "emulator/emulator.h"
+#include "service/service.h"
+#include "support/recording_endpoint.h"
+
 #include <QtTest>
+
+#include <memory>
+
+namespace {
+
+using namespace sk_emu;
+
+// Disk ids of the default workstation: port + 1 on the one controller.
+constexpr int kSsdA = 1, kSsdB = 2, kHdd1 = 3, kHdd2 = 4, kHdd3 = 5, kSpare = 6, kNvme = 7;
+constexpr int kSystem = 1, kData = 2;
+
+// Ids of the arrays the varied scenario adds.
+// Array members that are arrays are named by the array's id in the same field as a
+// disk's, so the tier's parts get ids no disk has.
+constexpr int kScratch = 3, kGrowing = 4, kTier = 5, kFast = 16, kSlow = 17;
+
+std::uint64_t diskIdOf(const Model &m, int disk)
+{
+    for (const Disk &d : m.disks) {
+        if (diskDeviceRoute(d) == disk)
+            return d.id;
+    }
+    return 0;
+}
+
+Array simpleArray(std::uint64_t id, std::uint16_t route, const char *name, std::uint32_t type,
+                  std::uint32_t first, std::uint32_t second, std::vector<std::uint64_t> disks,
+                  std::uint64_t extent)
+{
+    Array a;
+    a.id = id;
+    a.route = route;
+    a.name = name;
+    a.layout.type = type;
+    a.layout.firstCount = first;
+    a.layout.secondCount = second;
+    for (std::uint64_t disk : disks)
+        a.layout.members.push_back(Member{disk, 0, extent, 0, extent, 0});
+    a.layout.capacity = layoutCapacity(type, first, second, extent, extent * disks.size());
+    a.cachePolicy = code::CacheRead | code::CacheWrite;
+    return a;
+}
+
+// The default workstation made varied: Data degraded by a failed member, a hidden
+// scratch array on the spare disk's extents, a mirror being transformed into a
+// RAID 5 (two layouts), a tier over two small arrays, a dedicated spare and a member
+// whose disk is gone.
+Model variedScenario()
+{
+    Model m = defaultScenario();
+    const std::uint64_t extent = 1 << 20;
+    Array &data = m.arrays[1];
+    data.layout.members[2].flags = code::MemberFailed;
+    data.state = code::ArrayCritical;
+    data.spares = {diskIdOf(m, kNvme)};
+    m.disks[5].globalSpare = false;
+
+    Array scratch = simpleArray(0xB3, kScratch, "Scratch", code::TypeMirrorStripe, 1, 1,
+                                {diskIdOf(m, kSpare)}, extent);
+    scratch.attributes = code::AttributeHidden;
+
+    Array growing = simpleArray(0xB4, kGrowing, "Growing", code::TypeMirrorStripe, 2, 1,
+                                {diskIdOf(m, kSpare), 0}, extent);
+    growing.layout.members[1].flags = code::MemberNotPresent;
+    growing.target = growing.layout;
+    growing.target->type = code::TypeParity;
+    growing.target->firstCount = 1;
+    growing.target->secondCount = 3;
+    growing.target->members.push_back(Member{diskIdOf(m, kHdd1), extent, extent, 0, extent, 0});
+    growing.task = Task{code::TaskTransform, code::TaskStarted, 12000};
+
+    Array fast = simpleArray(0xB6, kFast, "Fast", code::TypeMirrorStripe, 1, 1,
+                             {diskIdOf(m, kSsdA)}, extent);
+    Array slow = simpleArray(0xB7, kSlow, "Slow", code::TypeMirrorStripe, 1, 1,
+                             {diskIdOf(m, kHdd2)}, extent);
+    Array tier;
+    tier.id = 0xB5;
+    tier.route = kTier;
+    tier.name = "Tier";
+    tier.layout.type = code::TypeTier;
+    tier.layout.firstCount = 1;
+    tier.layout.secondCount = 2;
+    tier.layout.members = {Member{fast.id, 0, extent, 0, extent, 0},
+                           Member{slow.id, 0, extent, 0, extent, 0}};
+    tier.layout.capacity = 2 * extent;
+    fast.referenceCount = slow.referenceCount = 1;
+    m.arrays.insert(m.arrays.end(), {scratch, growing, tier, fast, slow});
+    return m;
+}
+
+class HostFixture
+{
+public:
+    explicit HostFixture(Model model = defaultScenario())
+        : clock(std::make_shared<SK_EmuManualClock>(1000000)),
+          host(std::make_shared<Host>(std::move(model), clock)),
+          recorder(std::make_shared<RecordingEndpoint>(host))
+    {
+        SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(recorder));
+        api = std::make_unique<SK_RaidApi>();
+    }
+    ~HostFixture() { SK_InstallPlatform(nullptr); }
+
+    // Write commands other than the configuration traffic.
+    std::vector<RecordedRequest> sent() const
+    {
+        std::vector<RecordedRequest> out;
+        for (const RecordedRequest &r : recorder->commands()) {
+            if (r.u32(0) != SK_COMMAND_READ)
+                out.push_back(r);
+        }
+        return out;
+    }
+
+    std::shared_ptr<SK_EmuManualClock> clock;
+    std::shared_ptr<Host> host;
+    std::shared_ptr<RecordingEndpoint> recorder;
+    std::unique_ptr<SK_RaidApi> api;
+};
+
+const Array *arrayOf(const Model &m, int route)
+{
+    return m.findArrayByRoute(static_cast<std::uint32_t>(route));
+}
+
+} // namespace
 
 class tst_facade : public QObject
 {
     Q_OBJECT
+
+private slots:
+    void lookupsFollowTheImage();
+    void queries_data();
+    void queries();
+    void priorityScale_data();
+    void priorityScale();
+    void commandsReachTheDrivers_data();
+    void commandsReachTheDrivers();
+    void refusalsSendNothing_data();
+    void refusalsSendNothing();
+    void diskSettingsGoDiskByDisk();
+    void blinkArrayNamesEveryMemberInOneRequest();
+    void hideAndUnhideChangeTheArray();
+    void noDriverAnswersEmpty();
 };
+
+void tst_facade::lookupsFollowTheImage()
+{
+    HostFixture f;
+    SK_RaidApi &api = *f.api;
+    QCOMPARE(api.GetArrayCount(), 2);
+    QCOMPARE(api.GetDiskIds(), (QList<int>{1, 2, 3, 4, 5, 6, 7}));
+    QCOMPARE(api.GetDiskIndex(kNvme) >= 0, true);
+    QCOMPARE(api.GetDiskIndex(99), -1);
+    QCOMPARE(QString::fromLatin1(api.GetArrayRecord(kData)->Type), QStringLiteral("RAID5"));
+    QVERIFY(api.GetArrayRecord(kData, false) == nullptr);
+    QVERIFY(api.GetDiskRecord(api.GetDiskCount()) == nullptr);
+    QCOMPARE(api.GetDiskIdByPort(0, 4), kHdd3);
+    QCOMPARE(api.GetDiskIdByPort(0, 9), -1);
+    const Model m = f.host->model();
+    QCOMPARE(api.GetArrayIdByDeviceId(arrayOf(m, kData)->id), kData);
+    QVERIFY(api.GetDiskNameById(diskIdOf(m, kSpare)) != nullptr);
+    QCOMPARE(api.GetArrayList().size(), 2);
+    QCOMPARE(api.GetArrayList().at(1)->Device, kData);
+
+    // A change of the host shows only after a re-read.
+    f.host->modify([](Model &model) {
+        model.arrays.pop_back();
+        return true;
+    });
+    QCOMPARE(api.GetArrayCount(), 2);
+    api.RefreshConfig();
+    QCOMPARE(api.GetArrayCount(), 1);
+    QCOMPARE(api.GetArrayIndex(kData), -1);
+    QVERIFY(!api.ArrayHasTask(kData));
+}
+
+void tst_facade::queries_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<int>("a");
+    QTest::addColumn<int>("b");
+    QTest::addColumn<int>("expected");
+
+    QTest::newRow("the NVMe drive is NVMe and flash") << "IsNvmeDisk" << kNvme << 0 << 1;
+    QTest::newRow("a SATA SSD is flash") << "IsFlashDisk" << kSsdA << 0 << 1;
+    QTest::newRow("a hard disk is no flash") << "IsFlashDisk" << kHdd1 << 0 << 0;
+    QTest::newRow("hard disks sit in hot-swap bays") << "DiskHasHotSwap" << kHdd1 << 0 << 1;
+    QTest::newRow("an unknown disk has no hot swap") << "DiskHasHotSwap" << 42 << 0 << 0;
+    QTest::newRow("a disk in two arrays counts twice") << "DiskUseCount" << kSsdA << 0 << 2;
+    QTest::newRow("many elements of one array count once") << "DiskUseCount" << kSpare << 0 << 2;
+    QTest::newRow("the NVMe drive is Data's spare") << "DiskIsDedicatedSpare" << kNvme << 0 << 1;
+    QTest::newRow("and spare of that array only") << "IsDedicatedSpareOf" << kData << kNvme << 1;
+    QTest::newRow("not of another") << "IsDedicatedSpareOf" << kSystem << kNvme << 0;
+    QTest::newRow("the system mirror is system") << "ArrayIsSystem" << kSystem << 0 << 1;
+    QTest::newRow("Data isn't") << "ArrayIsSystem" << kData << 0 << 0;
+    QTest::newRow("SSD A is in the system array") << "DiskIsInSystemArray" << kSsdA << 0 << 1;
+    QTest::newRow("the failed member is failed") << "ElementIsFailed" << kData << kHdd3 << 1;
+    QTest::newRow("a healthy member isn't") << "ElementIsFailed" << kData << kHdd1 << 0;
+    QTest::newRow("Data is degraded") << "ArrayIsNormal" << kData << 0 << 0;
+    QTest::newRow("the transform is a task") << "ArrayHasTask" << kGrowing << 0 << 1;
+    QTest::newRow("a quiet array has none") << "ArrayHasTask" << kSystem << 0 << 0;
+    QTest::newRow("the scratch array is hidden") << "ArrayIsHidden" << kScratch << 0 << 1;
+    QTest::newRow("a destination member is a member") << "IsMember" << kGrowing << kHdd1 << 1;
+    QTest::newRow("tier members are tier parts") << "ArrayIsTierPart" << kSlow << 0 << 1;
+    QTest::newRow("the tier itself is none") << "ArrayIsTierPart" << kTier << 0 << 0;
+    QTest::newRow("a RAID 5 is redundant") << "ArrayIsRedundant" << kData << 0 << 1;
+    QTest::newRow("a tier isn't") << "ArrayIsRedundant" << kTier << 0 << 0;
+    QTest::newRow("Fast shares SSD A") << "ArrayHasSharedDisk" << kFast << 0 << 1;
+    QTest::newRow("Fast uses a system disk") << "ArrayUsesSystemDisk" << kFast << 0 << 1;
+    QTest::newRow("Slow doesn't") << "ArrayUsesSystemDisk" << kSlow << 0 << 0;
+    QTest::newRow("a failed member may be initialised")
+        << "DiskCanBeInitialized" << kHdd3 << 0 << 1;
+    QTest::newRow("a healthy member may not") << "DiskCanBeInitialized" << kHdd1 << 0 << 0;
+    QTest::newRow("a spare in no array may") << "DiskCanBeInitialized" << kNvme << 0 << 1;
+    QTest::newRow("a dedicated spare can't be removed") << "CanRemoveDisk" << kNvme << 0 << 0;
+    QTest::newRow("a hot-swap data disk can") << "CanRemoveDisk" << kHdd2 << 0 << 1;
+    QTest::newRow("a system disk can't") << "CanRemoveDisk" << kSsdA << 0 << 0;
+    QTest::newRow("4 TB is at least 4000000 MB") << "CapacityAtLeast" << kHdd1 << 4000000 << 1;
+    QTest::newRow("but not 4000788 MB") << "CapacityAtLeast" << kHdd1 << 4000788 << 0;
+    QTest::newRow("Data is bigger than System") << "ArrayIsBigger" << kData << kSystem << 1;
+    QTest::newRow("equal is not bigger") << "ArrayIsBigger" << kData << kData << 0;
+    QTest::newRow("the smallest counted member of Data, binary MB")
+        << "SmallestMemberMB" << 1 << 0 << int(7814037168ull * 512 / 1048576);
+}
+
+void tst_facade::queries()
+{
+    QFETCH(QString, query);
+    QFETCH(int, a);
+    QFETCH(int, b);
+    QFETCH(int, expected);
+    HostFixture f(variedScenario());
+    const SK_RaidApi &api = *f.api;
+    const std::map<QString, std::function<qint64()>> calls = {
+        {"IsNvmeDisk", [&] { return api.IsNvmeDisk(a); }},
+        {"IsFlashDisk", [&] { return api.IsFlashDisk(a); }},
+        {"DiskHasHotSwap", [&] { return api.DiskHasHotSwap(a); }},
+        {"DiskUseCount", [&] { return api.DiskUseCount(a); }},
+        {"DiskIsDedicatedSpare", [&] { return api.DiskIsDedicatedSpare(a); }},
+        {"IsDedicatedSpareOf", [&] { return api.IsDedicatedSpareOf(a, b); }},
+        {"ArrayIsSystem", [&] { return api.ArrayIsSystem(a); }},
+        {"DiskIsInSystemArray", [&] { return api.DiskIsInSystemArray(a); }},
+        {"ElementIsFailed", [&] { return api.ElementIsFailed(a, b); }},
+        {"ArrayIsNormal", [&] { return api.ArrayIsNormal(a); }},
+        {"ArrayHasTask", [&] { return api.ArrayHasTask(a); }},
+        {"ArrayIsHidden", [&] { return api.ArrayIsHidden(a); }},
+        {"IsMember", [&] { return api.IsMember(a, b); }},
+        {"ArrayIsTierPart", [&] { return api.ArrayIsTierPart(a); }},
+        {"ArrayIsRedundant", [&] { return api.ArrayIsRedundant(a); }},
+        {"ArrayHasSharedDisk", [&] { return api.ArrayHasSharedDisk(a); }},
+        {"ArrayUsesSystemDisk", [&] { return api.ArrayUsesSystemDisk(a); }},
+        {"DiskCanBeInitialized", [&] { return api.DiskCanBeInitialized(a, true); }},
+        {"CanRemoveDisk", [&] { return api.CanRemoveDisk(a); }},
+        {"CapacityAtLeast", [&] { return api.CapacityAtLeast(a, static_cast<quint64>(b)); }},
+        {"ArrayIsBigger", [&] { return api.ArrayIsBigger(a, b); }},
+        {"SmallestMemberMB",
+         [&] { return static_cast<qint64>(api.SmallestMemberMB(api.GetArrayIndex(kData))); }},
+    };
+    const auto call = calls.find(query);
+    QVERIFY2(call != calls.end(), qPrintable("no such query " + query));
+    QCOMPARE(call->second(), static_cast<qint64>(expected));
+    QVERIFY2(f.sent().empty(), "a query sent a command");
+}
+
+void tst_facade::priorityScale_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<int>("levelBack");
+    QTest::newRow("level 1 is 99 percent") << 1 << 99 << 1;
+    QTest::newRow("level 2 is 90 percent") << 2 << 90 << 2;
+    QTest::newRow("level 5 is 60 percent") << 5 << 60 << 5;
+    QTest::newRow("level 9 is 20 percent") << 9 << 20 << 9;
+    QTest::newRow("level 10 is 1 percent") << 10 << 1 << 10;
+}
+
+void tst_facade::priorityScale()
+{
+    QFETCH(int, level);
+    QFETCH(int, percent);
+    QFETCH(int, levelBack);
+    HostFixture f(variedScenario());
+    QVERIFY(f.api->SetTaskPriority(kGrowing, level));
+    const auto sent = f.sent();
+    QCOMPARE(sent.size(), std::size_t(1));
+    QCOMPARE(sent[0].u32(0), 7u);
+    QCOMPARE(sent[0].u32(32), SK_MANAGE_PRIORITY);
+    QCOMPARE(sent[0].u32(56), static_cast<std::uint32_t>(percent));
+    QCOMPARE(SK_RaidApi::TaskPriorityLevel(percent), levelBack);
+    QCOMPARE(SK_RaidApi::TaskPriorityLevel(95), 1);
+    QCOMPARE(SK_RaidApi::TaskPriorityLevel(5), 10);
+}
+
+// What one command sends: the command code, and at one offset the word that tells
+// it from its neighbours (a subcode, a value, an action).
+void tst_facade::commandsReachTheDrivers_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<quint32>("word");
+
+    QTest::newRow("global spare") << "AssignGlobalSpare" << 7 << 32 << quint32(31908);
+    QTest::newRow("dedicated spare") << "AssignDedicatedSpare" << 7 << 32 << quint32(31906);
+    QTest::newRow("drop the global spare") << "RemoveGlobalSpare" << 7 << 32 << quint32(31909);
+    QTest::newRow("remove all spares") << "RemoveArraySpares" << 7 << 32 << quint32(31917);
+    QTest::newRow("hide") << "HideArray" << 7 << 56 << quint32(0x2000200);
+    QTest::newRow("read cache only") << "SetArrayCache" << 7 << 56 << quint32(0x80000000);
+    QTest::newRow("check, not held") << "CheckArray" << 7 << 56 << quint32(0x10000000);
+    QTest::newRow("stop a check") << "StopCheck" << 7 << 32 << quint32(31911);
+    QTest::newRow("background scan on") << "ScanOn" << 7 << 56 << quint32(0x4000400);
+    QTest::newRow("rename") << "RenameArray" << 7 << 32 << quint32(31916);
+    QTest::newRow("delete") << "DeleteArray" << 3 << 36 << quint32(1);
+    QTest::newRow("secure erase after a hide") << "SecureEraseArray" << 7 << 32 << quint32(31918);
+    QTest::newRow("identify a disk") << "BlinkDisk" << 29 << 32 << quint32(16389);
+    QTest::newRow("prepare a disk for removal")
+        << "PrepareDiskRemoval" << 29 << 32 << quint32(16417);
+    QTest::newRow("initialise keeping metadata") << "InitializeDisks" << 4 << 40 << quint32(0);
+    QTest::newRow("rescan") << "Rescan" << 16 << 0 << quint32(16);
+}
+
+void tst_facade::commandsReachTheDrivers()
+{
+    QFETCH(QString, command);
+    QFETCH(int, code);
+    QFETCH(int, offset);
+    QFETCH(quint32, word);
+    HostFixture f;
+    SK_RaidApi &api = *f.api;
+    SK_InitDisks init;
+    init.disks[0] = kNvme;
+    init.diskCount = 1;
+    const std::map<QString, std::function<bool()>> calls = {
+        {"AssignGlobalSpare", [&] { return api.AssignGlobalSpare(kNvme); }},
+        {"AssignDedicatedSpare",
+         [&] {
+             f.host->modify([](Model &m) { return !(m.disks[5].globalSpare = false); });
+             api.RefreshConfig();
+             return api.AssignDedicatedSpare(kData, kSpare);
+         }},
+        {"RemoveGlobalSpare", [&] { return api.RemoveGlobalSpare(kSpare); }},
+        {"RemoveArraySpares", [&] { return api.RemoveArraySpares(kData); }},
+        {"HideArray", [&] { return api.HideArray(kData); }},
+        {"SetArrayCache", [&] { return api.SetArrayCache(kData, QStringLiteral("R")); }},
+        {"CheckArray", [&] { return api.CheckArray(kData); }},
+        {"StopCheck", [&] { return api.CheckArray(kData) && api.ConsistencyCheck(kData, true); }},
+        {"ScanOn", [&] { return api.SetBackgroundScan(kData, true); }},
+        {"RenameArray", [&] { return api.RenameArray(kData, QStringLiteral("Archive")); }},
+        {"DeleteArray", [&] { return api.DeleteArray(kData); }},
+        {"SecureEraseArray", [&] { return api.SecureEraseArray(kData); }},
+        {"BlinkDisk", [&] { return api.BlinkDisk(kHdd1, true); }},
+        {"PrepareDiskRemoval", [&] { return api.PrepareDiskRemoval(kHdd1); }},
+        {"InitializeDisks", [&] { return api.InitializeDisks(init); }},
+        {"Rescan", [&] { return api.Rescan(); }},
+    };
+    const auto call = calls.find(command);
+    QVERIFY2(call != calls.end(), qPrintable("no such command " + command));
+    QVERIFY2(call->second(), "the drivers refused the command");
+    const auto sent = f.sent();
+    QVERIFY(!sent.empty());
+    const RecordedRequest &last = sent.back();
+    QCOMPARE(last.u32(0), static_cast<std::uint32_t>(code));
+    QCOMPARE(last.u32(static_cast<std::size_t>(offset)), word);
+    if (command == QLatin1String("SecureEraseArray"))
+        QCOMPARE(sent.front().u32(56), 0x2000200u);
+}
+
+void tst_facade::refusalsSendNothing_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("a global spare that is a member") << "GlobalSpareMember";
+    QTest::newRow("a global spare twice") << "GlobalSpareTwice";
+    QTest::newRow("a dedicated spare for a RAID 0") << "DedicatedSpareOfRaid0";
+    QTest::newRow("a dedicated spare too small") << "DedicatedSpareTooSmall";
+    QTest::newRow("deleting the system array") << "DeleteSystem";
+    QTest::newRow("deleting an array a tier is built on") << "DeleteTierPart";
+    QTest::newRow("hiding a hidden array") << "HideHidden";
+    QTest::newRow("un-hiding a visible array") << "UnhideVisible";
+    QTest::newRow("hiding an array with a task") << "HideBusy";
+    QTest::newRow("removing a transform") << "RemoveTransform";
+    QTest::newRow("resuming a running task") << "ResumeRunning";
+    QTest::newRow("an unknown task action") << "Jump";
+    QTest::newRow("a priority without a task") << "PriorityIdle";
+    QTest::newRow("renaming during a task") << "RenameBusy";
+    QTest::newRow("initialising a healthy member") << "InitMember";
+    QTest::newRow("preparing a fixed disk for removal") << "RemoveFixed";
+}
+
+void tst_facade::refusalsSendNothing()
+{
+    QFETCH(QString, command);
+    HostFixture f(variedScenario());
+    SK_RaidApi &api = *f.api;
+    SK_InitDisks init;
+    init.disks[0] = kHdd1;
+    init.diskCount = 1;
+    const std::map<QString, std::function<bool()>> calls = {
+        {"GlobalSpareMember", [&] { return api.AssignGlobalSpare(kHdd1); }},
+        {"GlobalSpareTwice",
+         [&] {
+             f.host->modify([](Model &m) { return (m.disks[6].globalSpare = true); });
+             api.RefreshConfig();
+             return api.AssignGlobalSpare(kNvme);
+         }},
+        {"DedicatedSpareOfRaid0", [&] { return api.AssignDedicatedSpare(kScratch, kNvme); }},
+        {"DedicatedSpareTooSmall",
+         [&] {
+             f.host->modify([](Model &m) {
+                 m.arrays[1].spares.clear();
+                 m.disks[6].capacity = 1000000;
+                 return true;
+             });
+             api.RefreshConfig();
+             return api.AssignDedicatedSpare(kData, kNvme);
+         }},
+        {"DeleteSystem", [&] { return api.DeleteArray(kSystem); }},
+        {"DeleteTierPart", [&] { return api.DeleteArray(kSlow); }},
+        {"HideHidden", [&] { return api.HideArray(kScratch); }},
+        {"UnhideVisible", [&] { return api.UnhideArray(kData); }},
+        {"HideBusy", [&] { return api.HideArray(kGrowing); }},
+        {"RemoveTransform", [&] { return api.TaskControl(kGrowing, QStringLiteral("remove")); }},
+        {"ResumeRunning", [&] { return api.TaskControl(kGrowing, QStringLiteral("resume")); }},
+        {"Jump", [&] { return api.TaskControl(kGrowing, QStringLiteral("jump")); }},
+        {"PriorityIdle", [&] { return api.SetTaskPriority(kData, 3); }},
+        {"RenameBusy", [&] { return api.RenameArray(kGrowing, QStringLiteral("x")); }},
+        {"InitMember", [&] { return api.InitializeDisks(init); }},
+        {"RemoveFixed", [&] { return api.PrepareDiskRemoval(kSsdA); }},
+    };
+    const auto call = calls.find(command);
+    QVERIFY2(call != calls.end(), qPrintable("no such command " + command));
+    QVERIFY2(!call->second(), "the refusal went through");
+    QVERIFY2(f.sent().empty(), "a refused command reached the drivers");
+}
+
+void tst_facade::diskSettingsGoDiskByDisk()
+{
+    HostFixture f;
+    SK_DiskManage cache;
+    cache.disks[0] = kHdd1;
+    cache.disks[1] = kNvme; // passed over: NVMe keeps its own cache
+    cache.diskCount = 2;
+    cache.readOn = 1;
+    cache.writeOff = 1;
+    QVERIFY(f.api->ManageDiskCache(cache));
+    auto sent = f.sent();
+    QCOMPARE(sent.size(), std::size_t(2));
+    QCOMPARE(sent[0].u32(32), SK_DISK_READ_AHEAD_ON);
+    QCOMPARE(sent[1].u32(32), SK_DISK_WRITE_CACHE_OFF);
+    QCOMPARE(sent[1].u16(48), static_cast<std::uint16_t>(kHdd1)); // reference: ID, route
+
+    SK_DiskManage smart;
+    smart.disks[0] = kHdd2;
+    smart.diskCount = 1;
+    smart.smartOff = 1;
+    QVERIFY(f.api->ManageDiskSmart(smart));
+    sent = f.sent();
+    QCOMPARE(sent[2].u32(32), SK_DISK_SMART_POLLING_OFF);
+    QCOMPARE(sent[3].u32(0), 16u); // then a rescan
+
+    SK_DiskManage rescanOnly;
+    rescanOnly.diskCount = -1;
+    QVERIFY(f.api->ManageDiskSmart(rescanOnly));
+    QCOMPARE(f.sent().size(), std::size_t(5));
+    QCOMPARE(f.sent().back().u32(0), 16u);
+}
+
+void tst_facade::blinkArrayNamesEveryMemberInOneRequest()
+{
+    HostFixture f;
+    QVERIFY(f.api->BlinkArray(kData, true, 3));
+    auto sent = f.sent();
+    QCOMPARE(sent.size(), std::size_t(1));
+    QCOMPARE(sent[0].u32(32), SK_DISK_LED_STATE_BASE + 3);
+    QCOMPARE(sent[0].u32(36), 3u);
+    QCOMPARE(sent[0].u16(40 + 8), static_cast<std::uint16_t>(kHdd1));
+    QCOMPARE(sent[0].u16(72 + 8), static_cast<std::uint16_t>(kHdd3));
+
+    f.host->modify([](Model &m) {
+        m.arrays[1].layout.members.clear();
+        m.arrays[1].layout.firstCount = m.arrays[1].layout.secondCount = 0;
+        return true;
+    });
+    f.api->RefreshConfig();
+    f.api->BlinkArray(kData,
+                      false); // the drivers may refuse an empty list; it goes out all the same
+    sent = f.sent();
+    QCOMPARE(sent.size(), std::size_t(2));
+    QCOMPARE(sent[1].u32(32), SK_DISK_IDENTIFY_OFF);
+    QCOMPARE(sent[1].u32(36), 0u);
+}
+
+void tst_facade::hideAndUnhideChangeTheArray()
+{
+    HostFixture f;
+    QVERIFY(f.api->HideArray(kData));
+    QVERIFY(arrayOf(f.host->model(), kData)->hidden());
+    f.api->RefreshConfig();
+    QVERIFY(f.api->ArrayIsHidden(kData));
+    QVERIFY(f.api->UnhideArray(kData));
+    QVERIFY(!arrayOf(f.host->model(), kData)->hidden());
+    QCOMPARE(f.sent().back().u32(0), 16u); // the un-hide ends with a rescan
+
+    QVERIFY(f.api->RenameArray(kData, QStringLiteral("Archiv 2026")));
+    QCOMPARE(QString::fromStdString(arrayOf(f.host->model(), kData)->name),
+             QStringLiteral("Archiv 2026"));
+    QVERIFY(f.api->SetArrayCache(kData, QStringLiteral("NC")));
+    QCOMPARE(arrayOf(f.host->model(), kData)->cachePolicy, 0u);
+}
+
+void tst_facade::noDriverAnswersEmpty()
+{
+    SK_InstallPlatform(nullptr);
+    SK_RaidApi api;
+    QCOMPARE(SK_RaidApi::CoreCount(), 0);
+    QCOMPARE(api.GetArrayCount(), 0);
+    QCOMPARE(api.GetDiskIndex(1), -1);
+    QVERIFY(!api.Rescan());
+    QVERIFY(!api.HideArray(1));
+    QVERIFY(api.GetArrayList().isEmpty());
+}
 
 QTEST_GUILESS_MAIN(tst_facade)
 #include "tst_facade.moc"
