@@ -7,11 +7,22 @@ namespace {
 constexpr std::uint32_t kTaskPollDelayMs = 100;
 constexpr std::uint32_t kTaskPollIntervalMs = 1000;
 
-// Fields of the array management request (command 7).
-namespace manage {
-// The array's reference fills 36 to 51: ID, DeviceRoute at 44, CoreRoute at 46.
-constexpr std::size_t Subcode = 32, Reference = 36, Count = 52, Value = 56, Text = 60;
-} // namespace manage
+namespace manage = SK_ManageRequest;
+
+// Drive letter request (command 10). The array's ID goes where the option usually is.
+namespace lettering {
+constexpr std::size_t Id = SK_HDR_OPTION, Number = 40, Letter = 44, Flag = 48;
+} // namespace lettering
+
+// Task control request (command 34).
+namespace task {
+constexpr std::size_t Action = 32, All = 36, Count = 40, References = 44;
+} // namespace task
+
+// Offline request (command 17).
+namespace offline {
+constexpr std::size_t Count = 32, References = 36;
+} // namespace offline
 
 // Sends one management request for the named array. `fill(request)` adds the
 // subcode's own fields; `idOut` receives the ID of the array it found.
@@ -75,10 +86,10 @@ std::uint32_t driveLetter(const SK_CoreEntry *core, const char *tag, std::uint32
             // The request travels through the route of the first member.
             if (!array || array->ElementCount == 0 || !array->Elements || !array->Elements[0])
                 return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
-            SK_PutU64(r, 16, array->ID);
-            SK_PutU32(r, 40, number);
-            SK_PutU32(r, 44, letter);
-            SK_PutU32(r, 48, flag);
+            SK_PutU64(r, lettering::Id, array->ID);
+            SK_PutU32(r, lettering::Number, number);
+            SK_PutU32(r, lettering::Letter, letter);
+            SK_PutU32(r, lettering::Flag, flag);
             return open.SK_ConfigWriteRoute(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_DRIVE_LETTER,
                                             array->Elements[0]->CoreRoute);
         });
@@ -160,11 +171,11 @@ std::uint32_t SK_ApiTaskControlLogicalDevice(const SK_CoreEntry *core, std::uint
     const std::uint32_t status = SK_CheckArrayListArguments(core, count, list, all);
     if (status != SK_STS_SUCCESS)
         return status;
-    const SK_ArrayListShape shape{SK_CMD_TASK_CONTROL, 40, 44, __func__};
+    const SK_ArrayListShape shape{SK_CMD_TASK_CONTROL, task::Count, task::References, __func__};
     return SK_SendArrayList(core, count, list, all, option, shape, SK_AnyArray{},
                             [&](std::uint8_t *r) {
-                                SK_PutU32(r, 32, action);
-                                SK_PutU32(r, 36, all);
+                                SK_PutU32(r, task::Action, action);
+                                SK_PutU32(r, task::All, all);
                             });
 }
 
@@ -175,7 +186,7 @@ std::uint32_t SK_ApiOfflineLogicalDevice(const SK_CoreEntry *core, std::uint32_t
     const std::uint32_t status = SK_CheckArrayListArguments(core, count, list, all);
     if (status != SK_STS_SUCCESS)
         return status;
-    const SK_ArrayListShape shape{SK_CMD_OFFLINE, 32, 36, __func__};
+    const SK_ArrayListShape shape{SK_CMD_OFFLINE, offline::Count, offline::References, __func__};
     return SK_SendArrayList(core, count, list, all, option, shape, SK_AnyArray{},
                             [](std::uint8_t *) {});
 }

@@ -4,6 +4,12 @@
 
 #include "commands/sk_command_frame.h"
 
+// Fields of the array management request (command 7). The array's reference fills 36
+// to 51; a spare list starts at Spares.
+namespace SK_ManageRequest {
+constexpr std::size_t Subcode = 32, Reference = 36, Count = 52, Value = 56, Text = 60, Spares = 92;
+} // namespace SK_ManageRequest
+
 // Waits for the task of the array with `id` to end: sleeps `delayMs`, then polls the
 // configuration once a second until the array is gone, has no task and no progress,
 // or shows a failed transform. The library lock is released around every sleep, which

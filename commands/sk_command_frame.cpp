@@ -2,6 +2,11 @@
 
 namespace {
 
+// A device reference: ID, routes, and a zero word.
+namespace reference {
+constexpr std::size_t Id = 0, DeviceRoute = 8, CoreRoute = 10, Reserved = 12;
+} // namespace reference
+
 std::uint32_t checkName(const SK_CoreEntry *core, const char *name, std::uint32_t refusal)
 {
     if (!core || !name)
@@ -67,10 +72,10 @@ std::uint32_t resolveList(ResolveOne resolve, const SK_Core &core, const SK_Devi
 void SK_PutReference(std::uint8_t *request, std::size_t offset, std::uint64_t id,
                      std::uint16_t deviceRoute, std::uint16_t coreRoute)
 {
-    SK_PutU64(request, offset, id);
-    SK_PutU16(request, offset + 8, deviceRoute);
-    SK_PutU16(request, offset + 10, coreRoute);
-    SK_PutU32(request, offset + 12, 0);
+    SK_PutU64(request, offset + reference::Id, id);
+    SK_PutU16(request, offset + reference::DeviceRoute, deviceRoute);
+    SK_PutU16(request, offset + reference::CoreRoute, coreRoute);
+    SK_PutU32(request, offset + reference::Reserved, 0);
 }
 
 void SK_PutArrayReference(std::uint8_t *request, std::size_t offset,

@@ -11,6 +11,41 @@ constexpr std::uint32_t kTraceItemSize = 256;
 constexpr std::uint32_t kMessageWords = 9;
 constexpr std::uint32_t kWwidRequestSize = 8192;
 
+// Error injection request (command 9): the disk by its routes.
+namespace inject {
+constexpr std::size_t DeviceRoute = 32, CoreRoute = 34, Type = 36, Start = 40, Size = 44;
+} // namespace inject
+
+// Error setting request (commands 12, 13 and 32).
+namespace setError {
+constexpr std::size_t Kind = 32, Value = 36, Count = 40, References = 44;
+} // namespace setError
+
+// Trace state reply (4110): consecutive words from its start.
+namespace traceState {
+constexpr std::size_t Words = 0;
+} // namespace traceState
+
+// Message request (command 39): the words one after another.
+namespace message {
+constexpr std::size_t Words = 32;
+} // namespace message
+
+// PCI ID check (command 41). The controller's ID goes where the option usually is.
+namespace pciCheck {
+constexpr std::size_t Controller = SK_HDR_OPTION, Vendor = 40, Device = 44;
+} // namespace pciCheck
+
+// WWID request (command 47).
+namespace wwid {
+constexpr std::size_t First = 32, Second = 40;
+} // namespace wwid
+
+// Array map read (4125): the array's reference, the size asked for and the option.
+namespace arrayMap {
+constexpr std::size_t Reference = 36, Size = 52, Option = 56;
+} // namespace arrayMap
+
 // Counters C10 to C45, one line each, in report order.
 const char *const kCounterLabels[] = {"IocCount:",
                                       "CleanBufferCount:",
@@ -202,11 +237,11 @@ std::uint32_t injectError(const SK_CoreEntry *core, const char *diskName, std::u
             if (!disk)
                 return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
             SK_PutU32(r, SK_HDR_OPTION, option);
-            SK_PutU16(r, 32, disk->DeviceRoute);
-            SK_PutU16(r, 34, disk->CoreRoute);
-            SK_PutU32(r, 36, type);
-            SK_PutU32(r, 40, start);
-            SK_PutU32(r, 44, size);
+            SK_PutU16(r, inject::DeviceRoute, disk->DeviceRoute);
+            SK_PutU16(r, inject::CoreRoute, disk->CoreRoute);
+            SK_PutU32(r, inject::Type, type);
+            SK_PutU32(r, inject::Start, start);
+            SK_PutU32(r, inject::Size, size);
             if (byRoute)
                 return open.SK_ConfigWriteRoute(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_INJECT_ERROR,
                                                 disk->CoreRoute);
@@ -311,7 +346,7 @@ std::uint32_t SK_ApiSetError(const SK_CoreEntry *core, std::uint32_t mode, std::
         core, size, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
             for (std::uint32_t i = 0; i < count; ++i) {
                 // A name may be a disk's or an array's; the record says which.
-                const std::size_t at = 44 + i * SK_REFERENCE_SIZE;
+                const std::size_t at = setError::References + i * SK_REFERENCE_SIZE;
                 if (const SK_C_PhysicalDevice *disk = SK_LookupDisk(open, list[i]))
                     SK_PutDiskReference(r, at, *disk);
                 else if (const SK_C_LogicalDevice *array = SK_LookupArray(open, list[i]))
@@ -320,9 +355,9 @@ std::uint32_t SK_ApiSetError(const SK_CoreEntry *core, std::uint32_t mode, std::
                     return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
             }
             SK_PutU32(r, SK_HDR_OPTION, option);
-            SK_PutU32(r, 32, kind);
-            SK_PutU32(r, 36, value);
-            SK_PutU32(r, 40, count);
+            SK_PutU32(r, setError::Kind, kind);
+            SK_PutU32(r, setError::Value, value);
+            SK_PutU32(r, setError::Count, count);
             return open.SK_ConfigWrite(r, size, command);
         });
 }
@@ -343,7 +378,7 @@ std::uint32_t SK_DebugTraceGetState(const SK_CoreEntry *core, std::uint32_t *sta
     return readReply(core, __func__, SK_READ_TRACE_STATE, SK_STS_NO_MEMORY_AVAILABLE,
                      [&](const std::uint8_t *reply) {
                          for (std::uint32_t i = 0; i < kTraceStateWords; ++i)
-                             stateOut[i] = SK_GetU32(reply, 4 * i);
+                             stateOut[i] = SK_GetU32(reply, traceState::Words + 4 * i);
                      });
 }
 
@@ -377,7 +412,7 @@ std::uint32_t SK_ApiSendMessage(const SK_CoreEntry *core, const std::uint32_t *w
                          [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
                              SK_PutU32(r, SK_HDR_OPTION, option);
                              for (std::uint32_t i = 0; i < kMessageWords; ++i)
-                                 SK_PutU32(r, 32 + 4 * i, words[i]);
+                                 SK_PutU32(r, message::Words + 4 * i, words[i]);
                              return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE,
                                                         SK_CMD_SEND_MESSAGE);
                          });
@@ -392,9 +427,9 @@ std::uint32_t SK_ApiDirectCheckControllerPCIID(const SK_CoreEntry *core, std::ui
     const std::uint32_t status =
         SK_RunCommand(core, SK_PLAIN_REQUEST_SIZE, __func__,
                       [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
-                          SK_PutU64(r, 16, controllerId);
-                          SK_PutU32(r, 40, vendor);
-                          SK_PutU32(r, 44, device);
+                          SK_PutU64(r, pciCheck::Controller, controllerId);
+                          SK_PutU32(r, pciCheck::Vendor, vendor);
+                          SK_PutU32(r, pciCheck::Device, device);
                           return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_CHECK_PCI_ID);
                       });
     return status == SK_STS_SUCCESS ? static_cast<std::uint32_t>(SK_STS_SUCCESS)
@@ -408,8 +443,8 @@ std::uint32_t SK_ApiSetControllerWwid(const SK_CoreEntry *core, std::uint64_t fi
         return SKTL_STS_INVALID_PARAMETER;
     return SK_RunCommand(core, kWwidRequestSize, __func__,
                          [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
-                             SK_PutU64(r, 32, first);
-                             SK_PutU64(r, 40, second);
+                             SK_PutU64(r, wwid::First, first);
+                             SK_PutU64(r, wwid::Second, second);
                              return open.SK_ConfigWrite(r, kWwidRequestSize, SK_CMD_SET_WWID);
                          });
 }
@@ -431,9 +466,9 @@ std::uint32_t SK_ApiGetArrayMap(const SK_CoreEntry *core, const char *arrayName,
                            if (!array)
                                return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
                            SK_PutU32(r, SK_HDR_OPTION, 1);
-                           SK_PutArrayReference(r, 36, *array);
-                           SK_PutU32(r, 52, SK_ARRAY_MAP_SIZE);
-                           SK_PutU32(r, 56, option);
+                           SK_PutArrayReference(r, arrayMap::Reference, *array);
+                           SK_PutU32(r, arrayMap::Size, SK_ARRAY_MAP_SIZE);
+                           SK_PutU32(r, arrayMap::Option, option);
                            return SK_STS_SUCCESS;
                        });
 }

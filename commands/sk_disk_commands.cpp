@@ -1,8 +1,10 @@
 #include "commands/sk_disk_commands.h"
 
+#include "commands/sk_array_tasks.h"
 #include "commands/sk_lifecycle.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace {
@@ -11,6 +13,41 @@ namespace {
 namespace disk {
 constexpr std::size_t Subcode = 32, Count = 36, References = 40;
 } // namespace disk
+
+namespace manage = SK_ManageRequest;
+namespace initialize = SK_InitializeRequest;
+
+// Pass-through reads (4123, 4124). The caller's command block is copied to Block; the
+// data travels from SK_PASS_THROUGH_DATA_AT, which the request quotes at DataAt. The
+// reply starts with the device's two status words.
+namespace passRequest {
+constexpr std::size_t Reference = 36, Block = 52, Length = 148, Size = 152, Mode = 156,
+                      DataAt = 160, Direction = 164;
+constexpr std::size_t Completion = Block + 36; // the answered block's last 16 bytes
+constexpr std::size_t CompletionSize = 16;
+constexpr std::size_t Status = 0, Status2 = 4;
+} // namespace passRequest
+
+// Where the fields lie in the caller's descriptor, SK_PassThrough.
+namespace descriptorAt {
+constexpr std::size_t Block = offsetof(SK_PassThrough, Body), Direction = Block, Completion = 40;
+constexpr std::size_t Length1 = 100, Length2 = 20, Length3 = 52;
+} // namespace descriptorAt
+
+// Buzzer request (commands 45 and 46).
+namespace buzz {
+constexpr std::size_t On = 32;
+} // namespace buzz
+
+// Metadata read (4121): the disk's reference, the first sector and the sector count.
+namespace metadata {
+constexpr std::size_t Reference = 36, Sector = 52, Sectors = 60;
+} // namespace metadata
+
+// The three signature words that open a metadata header.
+namespace signature {
+constexpr std::size_t First = 0, Second = 4, Third = 8, Size = 12;
+} // namespace signature
 
 // Disks that "all" means: plain, unknown and legacy disks, never a core's own entry.
 bool isManagedDisk(const SK_C_PhysicalDevice &d)
@@ -104,15 +141,15 @@ std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint3
     switch (descriptor->Kind) {
     case 1:
         blockSize = 96;
-        lengthAt = 100;
+        lengthAt = descriptorAt::Length1;
         break;
     case 2:
         blockSize = 16;
-        lengthAt = 20;
+        lengthAt = descriptorAt::Length2;
         break;
     case 3:
         blockSize = 48;
-        lengthAt = 52;
+        lengthAt = descriptorAt::Length3;
         break;
     default:
         return SKTL_STS_INVALID_PARAMETER;
@@ -129,14 +166,14 @@ std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint3
         if (!disk)
             return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
         SK_PutU32(r, SK_HDR_OPTION, 1);
-        SK_PutDiskReference(r, 36, *disk);
-        std::memcpy(r + 52, body + 4, blockSize);
-        SK_PutU32(r, 148, SK_GetU32(body, lengthAt));
-        SK_PutU32(r, 152, size);
-        SK_PutU32(r, 156, mode);
-        SK_PutU32(r, 160, SK_PASS_THROUGH_DATA_AT);
+        SK_PutDiskReference(r, passRequest::Reference, *disk);
+        std::memcpy(r + passRequest::Block, body + descriptorAt::Block, blockSize);
+        SK_PutU32(r, passRequest::Length, SK_GetU32(body, lengthAt));
+        SK_PutU32(r, passRequest::Size, size);
+        SK_PutU32(r, passRequest::Mode, mode);
+        SK_PutU32(r, passRequest::DataAt, SK_PASS_THROUGH_DATA_AT);
         if (descriptor->Kind == 3)
-            r[164] = body[4];
+            r[passRequest::Direction] = body[descriptorAt::Direction];
         if (!isRead && size != 0)
             std::memcpy(r + SK_PASS_THROUGH_DATA_AT, writeFrom, size);
         readMade = true;
@@ -149,12 +186,13 @@ std::uint32_t passThrough(const SK_CoreEntry *core, const char *name, std::uint3
         if (!readMade)
             return sent;
         if (statusOut) {
-            statusOut[0] = SK_GetU32(r, 0);
-            statusOut[1] = SK_GetU32(r, 4);
+            statusOut[0] = SK_GetU32(r, passRequest::Status);
+            statusOut[1] = SK_GetU32(r, passRequest::Status2);
         }
         if (descriptor->Kind == 3) {
             // The driver answers the block in place; its last 16 bytes carry the completion.
-            std::memcpy(reinterpret_cast<std::uint8_t *>(descriptor) + 40, r + 52 + 36, 16);
+            std::memcpy(reinterpret_cast<std::uint8_t *>(descriptor) + descriptorAt::Completion,
+                        r + passRequest::Completion, passRequest::CompletionSize);
         }
         if (sent == SK_STS_SUCCESS && isRead && size != 0)
             std::memcpy(readInto, r + SK_PASS_THROUGH_DATA_AT, size);
@@ -293,14 +331,15 @@ std::uint32_t SK_ApiManageSpare(const SK_CoreEntry *core, const char *arrayName,
     return SK_RunCommand(
         core, size, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
             SK_PutU32(r, SK_HDR_OPTION, option);
-            SK_PutU32(r, 32, subcode);
+            SK_PutU32(r, manage::Subcode, subcode);
             if (global != 1) {
-                const std::uint32_t resolved = SK_ResolveArray(open, arrayName, r, 36);
+                const std::uint32_t resolved =
+                    SK_ResolveArray(open, arrayName, r, manage::Reference);
                 if (resolved != SK_STS_SUCCESS)
                     return resolved;
             }
-            SK_PutU32(r, 52, count);
-            const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, 92);
+            SK_PutU32(r, manage::Count, count);
+            const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, manage::Spares);
             if (resolved != SK_STS_SUCCESS)
                 return resolved;
             return open.SK_ConfigWrite(r, size, SK_CMD_MANAGE_ARRAY);
@@ -330,18 +369,20 @@ std::uint32_t SK_ApiInitializePhysicalDevice(const SK_CoreEntry *core, std::uint
         if (all) {
             for (std::uint32_t i = 0; open.Disks && i < open.DiskCount; ++i) {
                 if (open.Disks[i])
-                    SK_PutDiskReference(r, 44 + (written++) * SK_REFERENCE_SIZE, *open.Disks[i]);
+                    SK_PutDiskReference(r, initialize::References + (written++) * SK_REFERENCE_SIZE,
+                                        *open.Disks[i]);
             }
         } else {
-            const std::uint32_t resolved = SK_ResolveDiskList(open, list, count, r, 44);
+            const std::uint32_t resolved =
+                SK_ResolveDiskList(open, list, count, r, initialize::References);
             if (resolved != SK_STS_SUCCESS)
                 return resolved;
             written = count;
         }
         SK_PutU32(r, SK_HDR_OPTION, option);
-        SK_PutU32(r, 32, all);
-        SK_PutU32(r, 36, written);
-        SK_PutU32(r, 40, mode);
+        SK_PutU32(r, initialize::All, all);
+        SK_PutU32(r, initialize::Count, written);
+        SK_PutU32(r, initialize::Mode, mode);
         return open.SK_ConfigWrite(r, static_cast<std::uint32_t>(request.size()),
                                    SK_CMD_INITIALIZE);
     });
@@ -375,7 +416,7 @@ std::uint32_t SK_ApiBuzz(const SK_CoreEntry *core, std::uint32_t allCores, std::
                 return SK_STS_INVALID_CORE_HANDLE;
             std::uint8_t *r = request.data();
             std::memset(r, 0, request.size());
-            SK_PutU32(r, 32, on);
+            SK_PutU32(r, buzz::On, on);
             return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE,
                                        on ? SK_CMD_BUZZ_ON : SK_CMD_BUZZ_OFF);
         });
@@ -417,21 +458,24 @@ std::uint32_t SK_ApiReadDiskMetaData(const SK_CoreEntry *core, const char *name,
 
     return SK_ReadInto(core, __func__, SK_READ_METADATA, buffer, size,
                        [&](const SK_Core &open, std::uint8_t *r) -> std::uint32_t {
-                           const std::uint32_t resolved = SK_ResolveDisk(open, name, r, 36);
+                           const std::uint32_t resolved =
+                               SK_ResolveDisk(open, name, r, metadata::Reference);
                            if (resolved != SK_STS_SUCCESS)
                                return resolved;
                            SK_PutU32(r, SK_HDR_OPTION, option);
-                           SK_PutU64(r, 52, sector);
-                           SK_PutU32(r, 60, size / 512);
+                           SK_PutU64(r, metadata::Sector, sector);
+                           SK_PutU32(r, metadata::Sectors, size / 512);
                            return SK_STS_SUCCESS;
                        });
 }
 
 std::uint32_t SK_IsValidMetaDataHeader(const std::uint8_t *data, std::uint32_t size)
 {
-    if (!data || size < 12)
+    if (!data || size < signature::Size)
         return 0;
-    const std::uint32_t a = SK_GetU32(data, 0), b = SK_GetU32(data, 4), c = SK_GetU32(data, 8);
+    const std::uint32_t a = SK_GetU32(data, signature::First),
+                        b = SK_GetU32(data, signature::Second),
+                        c = SK_GetU32(data, signature::Third);
     const bool formE = a == 0x5AEAA55Au && b == 0xA55AEAA5u && c == 0x5AA55AEAu;
     const bool formF = a == 0x5AFAA55Au && b == 0xA55AFAA5u && c == 0x5AA55AFAu;
     return formE || formF ? 1 : 0;

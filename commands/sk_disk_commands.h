@@ -21,6 +21,12 @@ constexpr std::uint32_t SK_PASS_THROUGH_WRITE_MAX = 4096;
 constexpr std::uint32_t SK_PASS_THROUGH_DATA_AT = 1024;
 constexpr std::uint32_t SK_METADATA_READ_MAX = 0x20000;
 
+// Fields of the initialise request (command 4), also sent for a legacy disk that a
+// deleted array leaves behind.
+namespace SK_InitializeRequest {
+constexpr std::size_t All = 32, Count = 36, Mode = 40, References = 44;
+} // namespace SK_InitializeRequest
+
 // Sends `subcode` (SK_DISK_...) to each of `count` named disks, one request a disk,
 // or with `all` to every disk of type 4608, 4610 or 4611. Stops at the first disk
 // that fails.

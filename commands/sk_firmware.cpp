@@ -6,14 +6,30 @@
 
 namespace {
 
+// The image's header, then its PCI pairs and its region table.
+namespace header {
+constexpr std::size_t Magic = 0, PciPairs = 4, Regions = 8;
+} // namespace header
+namespace pciPair {
+constexpr std::size_t Vendor = 0, Device = 2;
+} // namespace pciPair
+namespace regionEntry {
+constexpr std::size_t Address = 0, Offset = 4, Size = 8;
+} // namespace regionEntry
+
+// Firmware read (4117).
+namespace firmwareRead {
+constexpr std::size_t Controller = 36, Size = 48, Address = 52;
+} // namespace firmwareRead
+
 std::uint32_t pciPairCount(const std::uint8_t *image)
 {
-    return SK_GetU32(image, 4);
+    return SK_GetU32(image, header::PciPairs);
 }
 
 std::uint32_t regionCount(const std::uint8_t *image)
 {
-    return SK_GetU32(image, 8);
+    return SK_GetU32(image, header::Regions);
 }
 
 std::uint64_t regionTableAt(const std::uint8_t *image)
@@ -78,7 +94,8 @@ std::uint32_t SK_CheckFirmwareImage(const std::uint8_t *image, std::uint32_t siz
 {
     if (!image)
         return SKTL_STS_INVALID_PARAMETER;
-    if (size < SK_FIRMWARE_HEADER_SIZE || size % 4 != 0 || SK_GetU32(image, 0) != SK_FIRMWARE_MAGIC)
+    if (size < SK_FIRMWARE_HEADER_SIZE || size % 4 != 0 ||
+        SK_GetU32(image, header::Magic) != SK_FIRMWARE_MAGIC)
         return SK_STS_INVALID_BUFFER;
     std::uint32_t sum = 0;
     for (std::uint32_t at = 0; at < size; at += 4)
@@ -109,9 +126,9 @@ bool SK_FirmwareImageRegion(const std::uint8_t *image, std::uint32_t size, std::
     if (at + SK_FIRMWARE_REGION_ENTRY_SIZE > size)
         return false;
     const auto entry = static_cast<std::size_t>(at);
-    regionOut->Address = SK_GetU32(image, entry);
-    regionOut->Offset = SK_GetU32(image, entry + 4);
-    regionOut->Size = SK_GetU32(image, entry + 8);
+    regionOut->Address = SK_GetU32(image, entry + regionEntry::Address);
+    regionOut->Offset = SK_GetU32(image, entry + regionEntry::Offset);
+    regionOut->Size = SK_GetU32(image, entry + regionEntry::Size);
     return true;
 }
 
@@ -125,8 +142,9 @@ std::uint32_t SK_ApiUpdateFirmwareInit(const SK_CoreEntry *core, std::uint64_t c
         return status;
     for (std::uint32_t i = 0; i < pciPairCount(image); ++i) {
         const std::size_t at = SK_FIRMWARE_HEADER_SIZE + i * SK_FIRMWARE_PCI_PAIR_SIZE;
-        if (SK_ApiDirectCheckControllerPCIID(core, controllerId, SK_GetU16(image, at),
-                                             SK_GetU16(image, at + 2)) == SK_STS_SUCCESS)
+        if (SK_ApiDirectCheckControllerPCIID(
+                core, controllerId, SK_GetU16(image, at + pciPair::Vendor),
+                SK_GetU16(image, at + pciPair::Device)) == SK_STS_SUCCESS)
             return SK_STS_SUCCESS;
     }
     return SK_STS_INVALID_PCI_ID;
@@ -178,9 +196,9 @@ std::uint32_t SK_ApiReadFirmware(const SK_CoreEntry *core, std::uint64_t control
         return SKTL_STS_INVALID_PARAMETER;
     return SK_ReadInto(core, __func__, SK_READ_FIRMWARE, buffer, size,
                        [&](const SK_Core &, std::uint8_t *r) -> std::uint32_t {
-                           SK_PutU64(r, 36, controllerId);
-                           SK_PutU32(r, 48, size);
-                           SK_PutU32(r, 52, address);
+                           SK_PutU64(r, firmwareRead::Controller, controllerId);
+                           SK_PutU32(r, firmwareRead::Size, size);
+                           SK_PutU32(r, firmwareRead::Address, address);
                            return SK_STS_SUCCESS;
                        });
 }

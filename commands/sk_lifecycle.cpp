@@ -1,6 +1,7 @@
 #include "commands/sk_lifecycle.h"
 
 #include "commands/sk_array_tasks.h"
+#include "commands/sk_disk_commands.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -33,6 +34,28 @@ constexpr std::size_t Type = 32, Reference = 36, DriveCount = 52, SpareCount = 5
                       Spares = 92, Drives = 156;
 constexpr std::size_t InfoShift = 4;
 } // namespace transform
+
+// Delete request (command 3).
+namespace deletion {
+constexpr std::size_t All = 32, Count = 36, References = 40;
+} // namespace deletion
+
+// Split request (command 14).
+namespace split {
+// The array's reference fills 36 to 51.
+constexpr std::size_t Type = 32, Reference = 36, DriveCount = 52, First = 56, Second = 60,
+                      Parameter = 64, Drives = 68;
+} // namespace split
+
+// Copy request (command 35): two array references, then the range in sectors.
+namespace copy {
+constexpr std::size_t Source = 32, Target = 48, Start = 64, Size = 72, P0 = 80, P1 = 84;
+} // namespace copy
+
+// Request going back to a kept generation (command 36).
+namespace commit {
+constexpr std::size_t Generation = 32;
+} // namespace commit
 
 bool isCreateType(std::uint32_t type)
 {
@@ -279,9 +302,9 @@ void resetLegacyDisk(const SK_CoreEntry *core, std::uint64_t diskId, std::uint32
                       if (!disk)
                           return SK_STS_PHYSICAL_DEVICE_NOT_FOUND;
                       SK_PutU32(r, SK_HDR_OPTION, option);
-                      SK_PutU32(r, 36, 1);
-                      SK_PutU32(r, 40, kClearMetadata);
-                      SK_PutDiskReference(r, 44, *disk);
+                      SK_PutU32(r, SK_InitializeRequest::Count, 1);
+                      SK_PutU32(r, SK_InitializeRequest::Mode, kClearMetadata);
+                      SK_PutDiskReference(r, SK_InitializeRequest::References, *disk);
                       return open.SK_ConfigWrite(r, size, SK_CMD_INITIALIZE);
                   });
 }
@@ -499,7 +522,7 @@ std::uint32_t SK_ApiDeleteLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
     SKTL_LockGuard lock;
     // Legacy disks whose arrays go with this request; their metadata is cleared after.
     std::vector<std::uint64_t> legacyDisks;
-    const SK_ArrayListShape shape{SK_CMD_DELETE, 36, 40, __func__};
+    const SK_ArrayListShape shape{SK_CMD_DELETE, deletion::Count, deletion::References, __func__};
     status = SK_SendArrayList(
         core, count, list, all, option, shape,
         [&](const SK_Core &open, const SK_C_LogicalDevice &array, std::uint32_t index) {
@@ -515,7 +538,7 @@ std::uint32_t SK_ApiDeleteLogicalDevice(const SK_CoreEntry *core, std::uint32_t 
             }
             return static_cast<std::uint32_t>(SK_STS_SUCCESS);
         },
-        [&](std::uint8_t *r) { SK_PutU32(r, 32, all); });
+        [&](std::uint8_t *r) { SK_PutU32(r, deletion::All, all); });
     if (status != SK_STS_SUCCESS)
         return status;
     for (const std::uint64_t disk : legacyDisks)
@@ -547,21 +570,21 @@ std::uint32_t SK_ApiSplitLogicalDevice(const SK_CoreEntry *core, const char *arr
         return status;
 
     const std::uint32_t size = SK_ListRequestSize(sentCount);
-    return SK_RunCommand(core, size, __func__,
-                         [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
-                             std::uint32_t resolved = SK_ResolveArray(open, arrayName, r, 36);
-                             if (resolved == SK_STS_SUCCESS)
-                                 resolved = SK_ResolveDiskList(open, drives, sentCount, r, 68);
-                             if (resolved != SK_STS_SUCCESS)
-                                 return resolved;
-                             SK_PutU32(r, SK_HDR_OPTION, option);
-                             SK_PutU32(r, 32, sentType);
-                             SK_PutU32(r, 52, sentCount);
-                             SK_PutU32(r, 56, keepShape ? first : 0);
-                             SK_PutU32(r, 60, keepShape ? second : 0);
-                             SK_PutU32(r, 64, parameter);
-                             return open.SK_ConfigWrite(r, size, SK_CMD_SPLIT);
-                         });
+    return SK_RunCommand(
+        core, size, __func__, [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
+            std::uint32_t resolved = SK_ResolveArray(open, arrayName, r, split::Reference);
+            if (resolved == SK_STS_SUCCESS)
+                resolved = SK_ResolveDiskList(open, drives, sentCount, r, split::Drives);
+            if (resolved != SK_STS_SUCCESS)
+                return resolved;
+            SK_PutU32(r, SK_HDR_OPTION, option);
+            SK_PutU32(r, split::Type, sentType);
+            SK_PutU32(r, split::DriveCount, sentCount);
+            SK_PutU32(r, split::First, keepShape ? first : 0);
+            SK_PutU32(r, split::Second, keepShape ? second : 0);
+            SK_PutU32(r, split::Parameter, parameter);
+            return open.SK_ConfigWrite(r, size, SK_CMD_SPLIT);
+        });
 }
 
 std::uint32_t SK_ApiCopyLogicalDevice(const SK_CoreEntry *core, const char *source,
@@ -583,12 +606,12 @@ std::uint32_t SK_ApiCopyLogicalDevice(const SK_CoreEntry *core, const char *sour
                           if (!from || !to)
                               return SK_STS_LOGICAL_DEVICE_NOT_FOUND;
                           targetId = to->ID;
-                          SK_PutArrayReference(r, 32, *from);
-                          SK_PutArrayReference(r, 48, *to);
-                          SK_PutU64(r, 64, start << 11);
-                          SK_PutU64(r, 72, size << 11);
-                          SK_PutU32(r, 80, p0);
-                          SK_PutU32(r, 84, p1);
+                          SK_PutArrayReference(r, copy::Source, *from);
+                          SK_PutArrayReference(r, copy::Target, *to);
+                          SK_PutU64(r, copy::Start, start << 11);
+                          SK_PutU64(r, copy::Size, size << 11);
+                          SK_PutU32(r, copy::P0, p0);
+                          SK_PutU32(r, copy::P1, p1);
                           return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE, SK_CMD_COPY);
                       });
     return waitIfAsked(core, status, wait, targetId);
@@ -602,7 +625,7 @@ std::uint32_t SK_ApiCommitPreviousConfig(const SK_CoreEntry *core, std::uint64_t
     return SK_RunCommand(core, SK_PLAIN_REQUEST_SIZE, __func__,
                          [&](SK_Core &open, std::uint8_t *r) -> std::uint32_t {
                              SK_PutU32(r, SK_HDR_OPTION, option);
-                             SK_PutU64(r, 32, generation);
+                             SK_PutU64(r, commit::Generation, generation);
                              return open.SK_ConfigWrite(r, SK_PLAIN_REQUEST_SIZE,
                                                         SK_CMD_COMMIT_PREVIOUS);
                          });
