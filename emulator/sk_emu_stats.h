@@ -13,12 +13,12 @@ namespace sk_emu {
 
 namespace stats {
 constexpr std::size_t RecordAt = 512;
-constexpr std::size_t BuildAt = 512;       // char[32]
-constexpr std::size_t HardwareAt = 544;    // char[32]
-constexpr std::size_t Wide64At = 576;      // 7 x u64
-constexpr std::size_t CountersAt = 632;    // 51 x u32
-constexpr std::size_t CacheAt = 836;       // 32 x u32
-constexpr std::size_t LatencyAt = 964;     // 52 x u32
+constexpr std::size_t BuildAt = 512;    // char[32]
+constexpr std::size_t HardwareAt = 544; // char[32]
+constexpr std::size_t Wide64At = 576;   // 7 x u64
+constexpr std::size_t CountersAt = 632; // 51 x u32
+constexpr std::size_t CacheAt = 836;    // 32 x u32
+constexpr std::size_t LatencyAt = 964;  // 52 x u32
 constexpr std::size_t RecordEnd = 1172;
 
 // Indexes into the u64 block.
@@ -34,12 +34,12 @@ enum Wide : int {
 
 // Indexes into the first u32 block.
 enum Counter : int {
-    RunMode,          // 0 External, 1 PCI
-    DebugMode,        // 0 OFF, 1 ON
-    BusIoSize,        // average sectors per disk request, this interval
-    CoreIoSize,       // average sectors per host request, this interval
-    BusRequests,      // disk requests, this interval
-    CoreRequests,     // host requests, this interval
+    RunMode,      // 0 External, 1 PCI
+    DebugMode,    // 0 OFF, 1 ON
+    BusIoSize,    // average sectors per disk request, this interval
+    CoreIoSize,   // average sectors per host request, this interval
+    BusRequests,  // disk requests, this interval
+    CoreRequests, // host requests, this interval
     BusIocTotalRequests,
     BusIocActive,
     CoreIocActive,
@@ -109,7 +109,8 @@ enum Latency : int {
 } // namespace stats
 
 // A workload that moves with the clock: each healthy array sees host reads and writes
-// whose rate drifts smoothly over minutes; the disks see what the level makes of them.
+// whose rate drifts smoothly over minutes; the disks see what the level makes of them,
+// plus the traffic of every running task, by its priority.
 class Statistics
 {
 public:
@@ -128,7 +129,7 @@ private:
     std::uint64_t m_lastMs = 0;
     std::uint64_t m_hostTotal = 0, m_diskTotal = 0;
     double m_coreRead = 0, m_coreWrite = 0, m_busRead = 0, m_busWrite = 0; // interval sectors
-    double m_coreRequests = 0, m_busRequests = 0;                            // interval
+    double m_coreRequests = 0, m_busRequests = 0;                          // interval
     std::uint64_t m_allCoreRequests = 0, m_allBusRequests = 0;
     std::uint64_t m_allCoreRead = 0, m_allCoreWrite = 0, m_allBusRead = 0, m_allBusWrite = 0;
 };
