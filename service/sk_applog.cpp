@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QMutex>
 #include <QStandardPaths>
 #include <QTextStream>
@@ -20,7 +21,9 @@ QString processPath;
 
 QString timeStamp(const QDateTime &when)
 {
-    return when.toString(QStringLiteral("M/dd/yyyy h:mm:ss AP  "));
+    // The C locale: "AM" and "PM" whatever the user's language, so the log reads alike
+    // on every machine.
+    return QLocale::c().toString(when, QStringLiteral("M/dd/yyyy h:mm:ss AP  "));
 }
 
 QString folderFor(const QString &applicationFolder, const QString &applicationName)
