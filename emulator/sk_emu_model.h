@@ -32,7 +32,7 @@ constexpr std::uint32_t ArrayOffline = 514;
 constexpr std::uint32_t ArrayOutdated = 515;
 constexpr std::uint32_t ArrayLocked = 516;
 
-constexpr std::uint32_t TypeParity = 7157; // RAID 5 / 50
+constexpr std::uint32_t TypeParity = 7157;       // RAID 5 / 50
 constexpr std::uint32_t TypeMirrorStripe = 7158; // RAID 0 / 1 / 10
 constexpr std::uint32_t TypeVolume = 7159;
 constexpr std::uint32_t TypeLegacy = 7161;
@@ -142,16 +142,16 @@ struct Disk
     std::uint32_t type = code::DiskTypeDisk;
     std::uint32_t state = code::DiskOnline;
     bool globalSpare = false;
-    bool attached = true;         // physically there; a pulled disk stays listed until a rescan
-    std::uint64_t capacity = 0;   // sectors
+    bool attached = true;       // physically there; a pulled disk stays listed until a rescan
+    std::uint64_t capacity = 0; // sectors
     std::uint32_t portType = 0;
     std::uint32_t features = 0;
     std::string model, serial, firmware, vendor;
     std::uint16_t smartVersion = 0; // 0: no ATA attributes
     std::vector<SmartAttribute> smart;
     std::optional<NvmeHealth> nvme;
-    std::uint32_t ledState = 0;     // identify / extended LED state
-    bool awaitingRescan = false;    // plugged in; comes online with the next rescan
+    std::uint32_t ledState = 0;  // identify / extended LED state
+    bool awaitingRescan = false; // plugged in; comes online with the next rescan
 
     bool isNvme() const { return (portType & code::PortNvme) != 0; }
 };
@@ -166,9 +166,9 @@ struct Enclosure
 
 struct Member
 {
-    std::uint64_t disk = 0;       // disk ID; 0 for a missing member
-    std::uint64_t offset = 0;     // sectors
-    std::uint64_t size = 0;       // sectors
+    std::uint64_t disk = 0;   // disk ID; 0 for a missing member
+    std::uint64_t offset = 0; // sectors
+    std::uint64_t size = 0;   // sectors
     std::uint64_t dataOffset = 0;
     std::uint64_t dataSize = 0;
     std::uint32_t flags = 0;
@@ -186,7 +186,7 @@ struct Layout
     std::uint32_t type = code::TypeMirrorStripe;
     std::uint32_t firstCount = 1;
     std::uint32_t secondCount = 1;
-    std::uint64_t capacity = 0; // sectors
+    std::uint64_t capacity = 0;  // sectors
     std::vector<Member> members; // row by row: firstCount x secondCount
 };
 
@@ -197,7 +197,7 @@ struct Array
     std::string name;        // display name, at most 32 bytes
     std::uint32_t state = code::ArrayNormal;
     Layout layout;
-    std::optional<Layout> target; // destination layout while a transform runs
+    std::optional<Layout> target;       // destination layout while a transform runs
     std::vector<std::uint64_t> spares;  // dedicated spare disk IDs
     std::vector<std::uint64_t> parents; // arrays built on this one
     Task task;
@@ -218,8 +218,13 @@ struct Volume
     char letter = 'C';
     std::vector<std::uint64_t> arrays;
     std::vector<std::uint64_t> disks;
-    bool inUse = false;          // a lock request fails
-    std::string ejectVeto;       // non-empty: the eject is vetoed by this
+    bool inUse = false;    // a lock request fails
+    std::string ejectVeto; // non-empty: the eject is vetoed by this
+    // Faults of the device eject path, for the branches a real system shows rarely.
+    std::uint32_t ejectVetoes = 0; // with ejectVeto: it lifts after this many requests; 0 never
+    std::uint32_t ejectError = 0;  // non-zero: the eject fails with this code, no veto
+    bool noDeviceNumber = false;   // the storage device number query fails
+    bool unlisted = false;         // the disk device is missing from the device list
 };
 
 struct Event
@@ -254,9 +259,9 @@ struct HostFacts
 // arm them in the state file of a running console.
 struct PendingFaults
 {
-    std::uint32_t refuseCount = 0;  // requests refused with refuseStatus
+    std::uint32_t refuseCount = 0; // requests refused with refuseStatus
     std::uint32_t refuseStatus = 0;
-    std::uint32_t staleWrites = 0;  // write commands answered with 38
+    std::uint32_t staleWrites = 0; // write commands answered with 38
     std::uint32_t failedTransfers = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 
 namespace sk_emu {
 
@@ -78,8 +79,11 @@ public:
         diskNumbers.clear();
         const Model model = m_host.model();
         const Volume *volume = findVolume(model, letter);
-        if (!volume)
+        if (!volume) {
+            // As the real view does when the volume can't be opened.
+            std::printf("Invalid Handle\n");
             return false;
+        }
         const auto numbers = osDiskNumbers(model);
         auto add = [&](std::uint64_t id) {
             for (const auto &[owner, number] : numbers) {
@@ -110,8 +114,7 @@ public:
         return 3;
     }
 
-    std::uint32_t arrayRouteOfOsDisk(std::uint32_t diskNumber,
-                                     std::uint32_t &deviceRoute) override
+    std::uint32_t arrayRouteOfOsDisk(std::uint32_t diskNumber, std::uint32_t &deviceRoute) override
     {
         const Model model = m_host.model();
         for (const auto &[owner, number] : osDiskNumbers(model)) {
@@ -134,12 +137,17 @@ public:
         return volume->inUse ? SK_VolumeLock::LockFailed : SK_VolumeLock::Done;
     }
 
-    bool volumeDeviceNumber(char letter, std::uint32_t &deviceNumber,
-                            std::uint32_t &error) override
+    bool volumeDeviceNumber(char letter, std::uint32_t &deviceNumber, std::uint32_t &error) override
     {
+        const Model model = m_host.model();
+        const Volume *volume = findVolume(model, letter);
         std::vector<std::uint32_t> numbers;
-        if (!volumeDiskNumbers(letter, numbers) || numbers.empty()) {
+        if (!volume || !volumeDiskNumbers(letter, numbers) || numbers.empty()) {
             error = 2; // ERROR_FILE_NOT_FOUND
+            return false;
+        }
+        if (volume->noDeviceNumber) {
+            error = 1; // ERROR_INVALID_FUNCTION
             return false;
         }
         deviceNumber = numbers.front();
@@ -149,9 +157,9 @@ public:
     bool findDeviceInstance(std::uint32_t deviceNumber, std::uint32_t &instance,
                             std::uint32_t &error) override
     {
-        const auto numbers = osDiskNumbers(m_host.model());
-        for (const auto &entry : numbers) {
-            if (entry.second == deviceNumber) {
+        const Model model = m_host.model();
+        for (const auto &entry : osDiskNumbers(model)) {
+            if (entry.second == deviceNumber && !unlisted(model, entry.first)) {
                 instance = kDeviceInstanceBase + deviceNumber;
                 return true;
             }
@@ -174,12 +182,18 @@ public:
         }
         for (const Volume &v : model.volumes) {
             const bool onThisDisk =
-                std::find(v.arrays.begin(), v.arrays.end(), it->first) != v.arrays.end()
-                || std::find(v.disks.begin(), v.disks.end(), it->first) != v.disks.end();
+                std::find(v.arrays.begin(), v.arrays.end(), it->first) != v.arrays.end() ||
+                std::find(v.disks.begin(), v.disks.end(), it->first) != v.disks.end();
+            if (onThisDisk && v.ejectError) {
+                answer.errorCode = v.ejectError;
+                return answer;
+            }
             if (onThisDisk && !v.ejectVeto.empty()) {
                 answer.vetoType = kVetoOutstandingOpen;
                 answer.vetoName = v.ejectVeto;
                 answer.errorCode = 23; // CR_REMOVE_VETOED
+                if (v.ejectVetoes)
+                    countVeto(v.letter);
                 return answer;
             }
         }
@@ -275,14 +289,10 @@ public:
             r.lastAccessTime = "11/21/2026 08:00:02.117";
             r.lastWriteTime = "03/14/2026 09:12:44.000";
             r.fileSize = 412672;
-            r.strings = {{"ProductName", "VOR RAID"},
-                         {"FileDescription", "VOR RAID driver"},
-                         {"FileVersion", d.version},
-                         {"InternalName", d.name},
-                         {"CompanyName", "VOR"},
-                         {"LegalCopyright", "Copyright (C) VOR"},
-                         {"OriginalFilename", d.name},
-                         {"ProductVersion", d.version},
+            r.strings = {{"ProductName", "VOR RAID"},   {"FileDescription", "VOR RAID driver"},
+                         {"FileVersion", d.version},    {"InternalName", d.name},
+                         {"CompanyName", "VOR"},        {"LegalCopyright", "Copyright (C) VOR"},
+                         {"OriginalFilename", d.name},  {"ProductVersion", d.version},
                          {"Product Version", d.version}};
             records.push_back(r);
         }
@@ -290,6 +300,27 @@ public:
     }
 
 private:
+    // A veto that lifts after a number of requests: the holder lets go in the end.
+    void countVeto(char letter)
+    {
+        m_host.modify([letter](Model &m) {
+            for (Volume &v : m.volumes) {
+                if (v.letter == letter && v.ejectVetoes && --v.ejectVetoes == 0)
+                    v.ejectVeto.clear();
+            }
+            return false;
+        });
+    }
+
+    static bool unlisted(const Model &model, std::uint64_t owner)
+    {
+        return std::any_of(model.volumes.begin(), model.volumes.end(), [owner](const Volume &v) {
+            return v.unlisted &&
+                   (std::find(v.arrays.begin(), v.arrays.end(), owner) != v.arrays.end() ||
+                    std::find(v.disks.begin(), v.disks.end(), owner) != v.disks.end());
+        });
+    }
+
     static const Volume *findVolume(const Model &model, char letter)
     {
         const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
@@ -330,8 +361,8 @@ std::vector<std::pair<std::uint64_t, std::uint32_t>> osDiskNumbers(const Model &
 
     std::vector<const Disk *> plain;
     for (const Disk &d : model.disks) {
-        if (d.attached && d.type == code::DiskTypeDisk && d.state == code::DiskOnline
-            && !isMemberOrSpare(model, d.id))
+        if (d.attached && d.type == code::DiskTypeDisk && d.state == code::DiskOnline &&
+            !isMemberOrSpare(model, d.id))
             plain.push_back(&d);
     }
     std::sort(plain.begin(), plain.end(), [](const Disk *x, const Disk *y) {

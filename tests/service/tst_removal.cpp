@@ -267,7 +267,10 @@ void tst_removal::driveLetters_data()
     const ModelChange none = [](sk_emu::Model &) {};
     QTest::newRow("an array with two volumes lists both, parted by a comma")
         << kSystemArray << ModelChange([](sk_emu::Model &m) {
-               m.volumes.push_back(sk_emu::Volume{'E', {arrayNamed(m, kSystemArray).id}, {}});
+               sk_emu::Volume second;
+               second.letter = 'E';
+               second.arrays = {arrayNamed(m, kSystemArray).id};
+               m.volumes.push_back(second);
            })
         << QStringLiteral("C:, E:") << true;
     QTest::newRow("an array on one volume") << kDataArray << none << QStringLiteral("D:") << false;
