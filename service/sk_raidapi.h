@@ -11,6 +11,11 @@
 #include <QObject>
 #include <QString>
 
+// The texts of the create and transform verdicts, row verdict + 100, each ending in a
+// newline. The two numberings differ: never look a verdict up in the other table.
+extern const QList<QString> createErrorList;
+extern const QList<QString> transformErrorList;
+
 class SK_RaidApi : public QObject
 {
     Q_OBJECT
@@ -81,6 +86,10 @@ public:
     bool CapacityAtLeast(int id, quint64 megabytes) const;
     bool CanRemoveDisk(int disk) const;
     bool ArrayIsBigger(int a, int b) const;
+    bool ArrayCanBeColdTier(int array) const;
+    bool ArrayCanBeHotTier(int array) const;
+    bool ArrayCanTrimExisting(int array) const;
+    bool DiskMixesWithArray(int array, int disk) const;
     bool IsAdministrator() const;
     bool DriverIsLoaded(const QString &file) const;
 
@@ -110,6 +119,39 @@ public:
     bool BlinkDisk(int disk, bool on);
     bool BlinkArray(int array, bool on, int pattern = 0);
     bool PrepareDiskRemoval(int disk);
+
+    // --- Create, transform and tier planning ---
+    // Negative results are verdicts: row verdict + 100 of createErrorList (create) or
+    // transformErrorList (transform). With queryMaxOnly the result is the largest size
+    // in decimal megabytes; otherwise 1 when done, 0 when the driver refused.
+    int CreateArray(SK_Create params, bool queryMaxOnly);
+    int TransformArray(SK_Create params, int arrayId, bool queryMaxOnly);
+    // No verdicts here: 0 is all a failure says.
+    int CreateTier(SK_Tier params, bool queryMaxOnly);
+    bool IsValidArrayName(const QString &name) const;
+    bool HasDriveMixing(const SK_Create &params) const;
+    bool ArrayCanTrim(const SK_Create &params) const;
+    // The driver's type code and counts of a type string over `diskCount` disks; false
+    // for the types that have no create path of their own.
+    static bool CreateShape(const QString &type, int diskCount, SK_CreateShape &shape);
+    // The cache word of "NC", "R", "W"; "RW", "WR" and anything else read and write.
+    static quint32 CacheWord(const QString &cache);
+    // Option flags of a create, and the tier's flag for a hot array that holds volumes.
+    static constexpr quint32 kCreateBackgroundScan = 0x400;
+    static constexpr quint32 kCreateSkipInit = 0x1000;
+    static constexpr quint32 kCreateLeaveData = 0x4000;
+    static constexpr quint32 kCreateZero = 0x10000;
+    static constexpr quint32 kTierHotHasVolumes = 0x40000;
+    static constexpr quint32 kCacheRead = 0x80000000u;
+    static constexpr quint32 kCacheWrite = 0x40000000u;
+    // The cache tag sizes the dialogs offer, by row: the driver's default, 64, 128 and
+    // 256 KB; the command layer turns them into tag codes.
+    static qint32 CacheTagSizeOfRow(int row);
+    // Sizes between the dialogs' decimal megabytes and the driver's binary ones. Both
+    // pass through single precision on the way, so large sizes lose their low bits;
+    // the two are not exact inverses.
+    static quint64 ToBinaryMB(qint32 decimalMB);
+    static int ToDecimalMB(quint64 binaryMB);
 
     // --- Volume dismount and device removal ---
     QString DriveLetters(int arrayId) const;

@@ -34,6 +34,31 @@ struct SK_Create
     bool leaveData = false;
 };
 
+// A tier or cache array asked for over two existing arrays. `type` ("RAIDCACHE" or
+// "RAIDTIER") and `size` ride along for the dialog; the driver learns the kind from
+// the cache word.
+struct SK_Tier
+{
+    QString name;
+    QString type;
+    qint32 size = 0;
+    QString cache;
+    quint32 arrays[SK_MAX_LIST_DISKS] = {}; // the cold array, then the hot one
+    qint32 arrayCount = 0;
+    quint8 hotHasVolumes = 0;
+    quint8 coldHasNoVolumes = 0;
+};
+
+// How a create or transform type string goes to the driver: the driver's type code
+// and the two counts whose product is the number of disks.
+struct SK_CreateShape
+{
+    quint32 driverType = 0;
+    quint32 first = 0;
+    quint32 second = 0;
+    bool takesSkipInit = false; // only levels that initialise can skip it
+};
+
 struct SK_InitDisks
 {
     quint32 disks[SK_MAX_LIST_DISKS] = {};
