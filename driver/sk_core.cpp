@@ -119,8 +119,8 @@ void SK_Core::SK_GetChannelID()
     SKTL_AlignedBuffer buffer(kChannelIdReadSize, "SK_Core::SK_GetChannelID");
     if (!buffer.ok())
         return;
-    const std::uint32_t result = SKTL_DeviceTransfer(true, Handle, buffer.data(), 0,
-                                                     kChannelIdReadSize, nullptr, nullptr);
+    const std::uint32_t result =
+        SKTL_DeviceTransfer(true, Handle, buffer.data(), 0, kChannelIdReadSize, nullptr, nullptr);
     ChannelId = result == SK_STS_SUCCESS ? SK_GetU32(buffer.data(), 0) : 0;
 }
 
@@ -139,8 +139,8 @@ void SK_Core::readImage(std::uint64_t generation, const char *tag)
     SKTL_AlignedBuffer image(SK_IMAGE_SIZE, tag);
     if (!image.ok())
         return;
-    const std::uint32_t status = SK_ConfigRead(image.data(), SK_IMAGE_SIZE, SK_READ_CONFIG,
-                                               generation);
+    const std::uint32_t status =
+        SK_ConfigRead(image.data(), SK_IMAGE_SIZE, SK_READ_CONFIG, generation);
     // A failed read may have left a status reply in the buffer; it is no image.
     if (status != SK_STS_SUCCESS)
         std::memset(image.data(), 0, SK_IMAGE_SIZE);
@@ -156,11 +156,20 @@ void SK_Core::SK_LoadImage(const std::uint8_t *image, std::uint32_t size, bool p
     DiskCount = ArrayCount = ControllerCount = EnclosureCount = 0;
     SK_WalkImage(image, size, previous, [this](const SK_ImageRecord &record) {
         switch (record.tag) {
-        case SK_TAG_DISK: ++DiskCount; break;
-        case SK_TAG_ARRAY: ++ArrayCount; break;
-        case SK_TAG_CONTROLLER: ++ControllerCount; break;
-        case SK_TAG_ENCLOSURE: ++EnclosureCount; break;
-        default: break;
+        case SK_TAG_DISK:
+            ++DiskCount;
+            break;
+        case SK_TAG_ARRAY:
+            ++ArrayCount;
+            break;
+        case SK_TAG_CONTROLLER:
+            ++ControllerCount;
+            break;
+        case SK_TAG_ENCLOSURE:
+            ++EnclosureCount;
+            break;
+        default:
+            break;
         }
     });
 
@@ -215,15 +224,21 @@ void SK_Core::writeHeader(std::uint8_t *buffer, std::uint32_t command) const
     SK_PutU32(buffer, SK_HDR_API_REVISION, SK_API_REVISION);
 }
 
-// Steps 4 and 5 of a read: the 8192-byte request, then the reply of `size` bytes.
-std::uint32_t SK_Core::exchange(std::uint8_t *buffer, std::uint32_t size)
+// One read exchange: the 8192-byte request, then the reply of `size` bytes. Only a
+// refused read sets `readRefused`; a request the device did not take is returned as it
+// stands, since the driver kept no reason for it.
+std::uint32_t SK_Core::exchange(std::uint8_t *buffer, std::uint32_t size, bool &readRefused)
 {
+    readRefused = false;
     const std::uint64_t position = channelPosition();
     const std::uint32_t sent = SKTL_DeviceTransfer(false, Handle, buffer, position,
                                                    SK_READ_REQUEST_SIZE, nullptr, nullptr);
     if (sent != SK_STS_SUCCESS)
         return sent;
-    return SKTL_DeviceTransfer(true, Handle, buffer, position, size, nullptr, nullptr);
+    const std::uint32_t read =
+        SKTL_DeviceTransfer(true, Handle, buffer, position, size, nullptr, nullptr);
+    readRefused = read == SK_STS_FAILURE;
+    return read;
 }
 
 std::uint32_t SK_Core::SK_ConfigRead(std::uint8_t *buffer, std::uint32_t size,
@@ -240,15 +255,16 @@ std::uint32_t SK_Core::SK_ConfigRead(std::uint8_t *buffer, std::uint32_t size,
     if (Handle == 0 || ChannelId == 0)
         return SK_STS_SUCCESS;
 
-    const std::uint32_t result = exchange(buffer, size);
-    if (result != SK_STS_FAILURE)
+    bool readRefused = false;
+    const std::uint32_t result = exchange(buffer, size, readRefused);
+    if (!readRefused)
         return result;
 
-    // The driver refused the read: ask it why.
+    // The driver refused the read and kept the reason for this channel: ask for it.
     SK_PutU32(buffer, SK_HDR_COMMAND, SK_COMMAND_READ);
     SK_PutU32(buffer, SK_HDR_READ_CODE, SK_READ_LAST_STATUS);
     SK_PutU64(buffer, SK_HDR_PARAMETER, Generation);
-    const std::uint32_t reason = exchange(buffer, size);
+    const std::uint32_t reason = exchange(buffer, size, readRefused);
     if (reason != SK_STS_SUCCESS)
         return reason;
     return SK_GetU32(buffer, 0);
@@ -262,8 +278,8 @@ std::uint32_t SK_Core::SK_ConfigWrite(std::uint8_t *buffer, std::uint32_t size,
     if (Handle == 0 || ChannelId == 0)
         return SK_STS_SUCCESS;
 
-    const std::uint32_t result = SKTL_DeviceTransfer(false, Handle, buffer, channelPosition(),
-                                                     size, nullptr, nullptr);
+    const std::uint32_t result =
+        SKTL_DeviceTransfer(false, Handle, buffer, channelPosition(), size, nullptr, nullptr);
     if (result != SK_STS_FAILURE)
         return result;
 
@@ -283,15 +299,15 @@ std::uint32_t SK_Core::SK_ConfigWriteRoute(std::uint8_t *buffer, std::uint32_t s
 
     char path[112];
     std::snprintf(path, sizeof path, "%s%u/Device0", RoutePrefix, route);
-    const SK_Handle routeHandle = SKTL_DeviceOpen(path, SK_OPEN_EXCLUSIVE_ALWAYS,
-                                                  SK_FLAGS_WRITE_THROUGH);
+    const SK_Handle routeHandle =
+        SKTL_DeviceOpen(path, SK_OPEN_EXCLUSIVE_ALWAYS, SK_FLAGS_WRITE_THROUGH);
     if (routeHandle == 0)
         return SK_STS_SUCCESS;
 
     std::uint32_t result = SK_STS_SUCCESS;
     if (ChannelId != 0)
-        result = SKTL_DeviceTransfer(false, routeHandle, buffer, channelPosition(), size,
-                                     nullptr, nullptr);
+        result = SKTL_DeviceTransfer(false, routeHandle, buffer, channelPosition(), size, nullptr,
+                                     nullptr);
     SKTL_DeviceClose(routeHandle);
     return result;
 }

@@ -84,18 +84,18 @@ public:
     SK_Core &operator=(const SK_Core &) = delete;
 
     // One read transaction: writes the 8192-byte request at the channel's position,
-    // then reads `size` bytes of reply into the same buffer. A refused read is followed
-    // by a read of the last status (4118), whose first word is returned.
-    // Returns 1, 2, 3, 6 or the driver's status of a refused read. Without a handle or
-    // channel it returns 1 and transfers nothing.
-    std::uint32_t SK_ConfigRead(std::uint8_t *buffer, std::uint32_t size,
-                                std::uint32_t readCode, std::uint64_t parameter);
+    // then reads `size` bytes of reply into the same buffer. A request write that fails
+    // is returned as it stands; a refused read (3) is followed by a read of the last
+    // status (4118), whose first word is returned. Returns 1, 2, 3, 6 or the driver's
+    // status of a refused read. Without a handle or channel it returns 1 and transfers
+    // nothing.
+    std::uint32_t SK_ConfigRead(std::uint8_t *buffer, std::uint32_t size, std::uint32_t readCode,
+                                std::uint64_t parameter);
 
     // One write transaction of `size` bytes. A refused write (transfer result 3) is
     // answered by the driver's status from a second exchange. Returns 1, 2, 6 or that
     // status; without a handle or channel 1 and nothing is sent.
-    std::uint32_t SK_ConfigWrite(std::uint8_t *buffer, std::uint32_t size,
-                                 std::uint32_t command);
+    std::uint32_t SK_ConfigWrite(std::uint8_t *buffer, std::uint32_t size, std::uint32_t command);
 
     // As SK_ConfigWrite through a handle opened for one route; the generation is left
     // as the caller set it and no reason is fetched after a refusal. Returns the
@@ -141,7 +141,7 @@ public:
 private:
     void composePaths(const char *busName, const char *coreName);
     void readImage(std::uint64_t generation, const char *tag);
-    std::uint32_t exchange(std::uint8_t *buffer, std::uint32_t size);
+    std::uint32_t exchange(std::uint8_t *buffer, std::uint32_t size, bool &readRefused);
     void writeHeader(std::uint8_t *buffer, std::uint32_t command) const;
     void freeRecords();
 

@@ -5,6 +5,7 @@
 #include "emulator/sk_emu_image.h"
 #include "emulator/sk_emu_rules.h"
 #include "emulator/sk_emu_scenario.h"
+#include "emulator/sk_emu_statefile.h"
 #include "emulator/sk_emu_system.h"
 #include "emulator/sk_emu_wire.h"
 
@@ -26,17 +27,30 @@ bool driverLoaded(const Model &model, const char *name)
                        [name](const DriverFile &d) { return d.name == name && d.loaded; });
 }
 
-std::int64_t fileStamp(const std::string &path)
-{
-    std::error_code ec;
-    const auto time = std::filesystem::last_write_time(path, ec);
-    if (ec)
-        return 0;
-    const auto size = std::filesystem::file_size(path, ec);
-    return time.time_since_epoch().count() ^ static_cast<std::int64_t>(ec ? 0 : size);
-}
-
 } // namespace
+
+// One request's turn at the state file: the file's lock is held from before the state
+// is looked at until after the change is written, so a change another process makes
+// meanwhile is read first and never overwritten. Taken with m_mutex held.
+class Host::StateTurn
+{
+public:
+    explicit StateTurn(Host &host, bool reload = true) : m_host(host)
+    {
+        if (m_host.m_turnDepth++ > 0 || m_host.m_statePath.empty())
+            return;
+        m_lock = std::make_unique<StateFileLock>(m_host.m_statePath);
+        if (reload)
+            m_host.reloadIfChangedOnDisk();
+    }
+    ~StateTurn() { --m_host.m_turnDepth; }
+    StateTurn(const StateTurn &) = delete;
+    StateTurn &operator=(const StateTurn &) = delete;
+
+private:
+    Host &m_host;
+    std::unique_ptr<StateFileLock> m_lock;
+};
 
 Host::Host(Model model, std::shared_ptr<SK_EmuClock> clock)
     : m_model(std::move(model)),
@@ -53,20 +67,30 @@ Host::~Host() = default;
 std::shared_ptr<Host> Host::openStateFile(const std::string &path, std::string &error,
                                           std::shared_ptr<SK_EmuClock> clock)
 {
+    // Under the lock, so two programs starting together create the file only once.
+    StateFileLock lock(path);
     Model model;
+    std::string text;
     std::error_code ec;
     if (std::filesystem::exists(path, ec)) {
-        if (!readStateFile(path, model, error))
+        std::string why;
+        if (!readStateText(path, text, error))
             return nullptr;
+        if (!parseScenario(text, model, why)) {
+            error = path + ": " + why;
+            return nullptr;
+        }
     } else {
         model = defaultScenario();
-        if (!writeStateFileAtomically(path, model, error))
+        text = writeScenario(model);
+        if (!writeStateTextAtomically(path, text, error))
             return nullptr;
     }
     auto host = std::make_shared<Host>(std::move(model), std::move(clock));
     std::lock_guard<std::recursive_mutex> guard(host->m_mutex);
     host->m_statePath = path;
-    host->m_stateStamp = fileStamp(path);
+    host->m_stateText = std::move(text);
+    host->m_savedScenario = writeScenario(host->m_model);
     return host;
 }
 
@@ -75,7 +99,7 @@ std::shared_ptr<Host> Host::openStateFile(const std::string &path, std::string &
 std::uint64_t Host::open(const std::string &osName, std::uint32_t, std::uint32_t)
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
-    reloadIfChangedOnDisk();
+    StateTurn turn(*this);
     runTasks();
     // The control device exists while the configuration driver is loaded.
     if (osName != kControlDevice || !driverLoaded(m_model, "skcfg.sys"))
@@ -123,6 +147,7 @@ SK_HostIo Host::read(std::uint64_t session, std::uint64_t position, std::uint8_t
                      std::uint32_t size)
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    StateTurn turn(*this);
     SK_HostIo io;
     auto sessionIt = m_sessions.find(session);
     if (sessionIt == m_sessions.end()) {
@@ -164,6 +189,7 @@ SK_HostIo Host::write(std::uint64_t session, std::uint64_t position, const std::
                       std::uint32_t size)
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    StateTurn turn(*this);
     SK_HostIo io;
     if (!m_sessions.count(session)) {
         io.queued = false;
@@ -195,24 +221,21 @@ SK_HostIo Host::acceptWrite(Channel &channel, const std::uint8_t *data, std::uin
 {
     if (size < proto::SlotSize)
         return refuse(channel, proto::BufferTooSmall);
-    // Refusal faults spare the request for the last status: the reason is always told.
-    const bool asksLastStatus = u32(data, proto::Command) == proto::ReadCommand
-                                && u32(data, proto::ReadCode) == proto::ReadLastStatus;
-    if (std::uint32_t status = 0; !asksLastStatus && consumeRefusal(status))
-        return refuse(channel, status);
-    if (u32(data, proto::ApiLevel) != 2)
-        return refuse(channel, proto::UnsupportedApi);
-
     const std::uint32_t command = u32(data, proto::Command);
     if (command == proto::ReadCommand) {
-        // A read request waits for the next read at the same position.
-        // The last status stays as it is: the read may be the one that asks for it.
+        // The drivers take every read request and judge it when the reply is read, so a
+        // refused read fails at the read and its reason waits for the 4118 read. The last
+        // status stays as it is: this may be the request that asks for it.
         channel.request.assign(data, data + size);
         channel.readPending = true;
         SK_HostIo io;
         io.bytes = size;
         return io;
     }
+    if (std::uint32_t status = 0; consumeRefusal(status))
+        return refuse(channel, status);
+    if (u32(data, proto::ApiLevel) != 2)
+        return refuse(channel, proto::UnsupportedApi);
 
     if (m_model.faults.staleWrites) {
         --m_model.faults.staleWrites;
@@ -251,11 +274,13 @@ SK_HostIo Host::answerRead(Channel &channel, std::uint8_t *data, std::uint32_t s
     if (!channel.readPending)
         return refuse(channel, proto::NoReadCommand);
     channel.readPending = false;
-    // The reason of a refusal is always told, so the console learns the status.
-    if (std::uint32_t status = 0; u32(channel.request.data(), proto::ReadCode)
-                                      != proto::ReadLastStatus
-                                  && consumeRefusal(status))
+    // Refusal faults spare the request for the last status: the reason is always told.
+    const std::uint8_t *request = channel.request.data();
+    if (std::uint32_t status = 0;
+        u32(request, proto::ReadCode) != proto::ReadLastStatus && consumeRefusal(status))
         return refuse(channel, status);
+    if (u32(request, proto::ApiLevel) != 2)
+        return refuse(channel, proto::UnsupportedApi);
 
     std::uint32_t status = proto::Success;
     const std::vector<std::uint8_t> reply = replyFor(channel, status);
@@ -307,8 +332,8 @@ std::vector<std::uint8_t> Host::replyFor(Channel &channel, std::uint32_t &status
             // Read codes with their own handler (create info, SMART data, ...) answer
             // into the reply behind the request header.
             Model working = m_model;
-            reply.assign(request, request + std::min<std::size_t>(channel.request.size(),
-                                                                  proto::ReplySize));
+            reply.assign(request,
+                         request + std::min<std::size_t>(channel.request.size(), proto::ReplySize));
             reply.resize(proto::ReplySize, 0);
             put32(reply.data(), proto::Command, proto::Success);
             const CommandResult result =
@@ -359,7 +384,7 @@ Model Host::model() const
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
     auto *self = const_cast<Host *>(this);
-    self->reloadIfChangedOnDisk();
+    StateTurn turn(*self);
     self->runTasks();
     return m_model;
 }
@@ -445,7 +470,7 @@ void Host::recordHistory()
 void Host::modify(const std::function<bool(Model &)> &change)
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
-    reloadIfChangedOnDisk();
+    StateTurn turn(*this);
     Model working = m_model;
     const bool configurationChanged = change(working);
     if (configurationChanged) {
@@ -573,7 +598,14 @@ void Host::attachStateFile(const std::string &path)
 {
     std::lock_guard<std::recursive_mutex> guard(m_mutex);
     m_statePath = path;
-    saveQuietly();
+    m_stateText.clear();
+    m_savedScenario.clear();
+    if (path.empty())
+        return;
+    // The file takes this host's state: nothing is read from it first.
+    StateTurn turn(*this, false);
+    std::string error;
+    writeState(error, true);
 }
 
 bool Host::save(std::string &error)
@@ -583,34 +615,46 @@ bool Host::save(std::string &error)
         error = "no state file is attached";
         return false;
     }
-    if (!writeStateFileAtomically(m_statePath, m_model, error))
-        return false;
-    m_stateStamp = fileStamp(m_statePath);
-    return true;
+    StateTurn turn(*this, false);
+    return writeState(error, true);
 }
 
 void Host::saveQuietly()
 {
-    std::string error;
-    if (!m_statePath.empty())
-        save(error);
-}
-
-// Another process (skemu) may have changed the state file: take its state, keeping
-// channels and statistics. A file that no longer reads is ignored, not overwritten
-// until our own next change.
-void Host::reloadIfChangedOnDisk()
-{
     if (m_statePath.empty())
         return;
-    const std::int64_t stamp = fileStamp(m_statePath);
-    if (stamp == 0 || stamp == m_stateStamp)
+    StateTurn turn(*this, false); // inside a request this is the request's own turn
+    std::string error;
+    writeState(error, false);
+}
+
+// A state the file already holds is not written again: a request that changed nothing
+// leaves the file as it is, byte for byte, and the other process need not re-read it.
+bool Host::writeState(std::string &error, bool evenIfUnchanged)
+{
+    std::string text = writeScenario(m_model);
+    if (!evenIfUnchanged && text == m_savedScenario)
+        return true;
+    if (!writeStateTextAtomically(m_statePath, text, error))
+        return false;
+    m_savedScenario = text;
+    m_stateText = std::move(text);
+    return true;
+}
+
+// Another process (skemu, a second console) may have changed the state file: take its
+// state, keeping channels and statistics. A file that no longer reads is ignored, not
+// overwritten until our own next change.
+void Host::reloadIfChangedOnDisk()
+{
+    std::string text, error;
+    if (!readStateText(m_statePath, text, error) || text == m_stateText)
         return;
     Model model;
-    std::string error;
-    if (!readStateFile(m_statePath, model, error))
+    if (!parseScenario(text, model, error))
         return;
-    m_stateStamp = stamp;
+    m_stateText = std::move(text);
+    m_savedScenario = writeScenario(model);
     if (model.generation != m_model.generation)
         recordHistory();
     m_model = std::move(model);

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -178,8 +181,7 @@ TEST_F(ChannelTest, readParameterWidthDependsOnTheReadCode)
     SK_PutU32(buffer.data(), SK_HDR_PARAMETER, 0x1234);
     core->SK_ConfigRead(buffer.data(), 8192, 4109, 99);
     EXPECT_EQ(SK_GetU32(device->transfers[4].written.data(), SK_HDR_PARAMETER), 0x1234u);
-    EXPECT_EQ(SK_GetU64(device->transfers[4].written.data(), SK_HDR_GENERATION),
-              core->Generation);
+    EXPECT_EQ(SK_GetU64(device->transfers[4].written.data(), SK_HDR_GENERATION), core->Generation);
 }
 
 TEST_F(ChannelTest, shortReadStillWrites8192BytesAndFaultsOnASmallBlock)
@@ -222,6 +224,61 @@ TEST_F(ChannelTest, refusedReadIsAnsweredByTheLastStatusExchange)
     EXPECT_EQ(SK_GetU32(reason.written.data(), SK_HDR_READ_CODE), SK_READ_LAST_STATUS);
     EXPECT_EQ(SK_GetU64(reason.written.data(), SK_HDR_PARAMETER), 0x0000000200000010ull);
 }
+
+// Which failures of a read ask the driver for the reason: only a refused reply does.
+// A request the device did not take, and any failure of the reason exchange itself, is
+// returned as the transfer gave it.
+struct ReadFailure
+{
+    const char *what;
+    std::vector<std::uint32_t> writeErrors;
+    std::vector<ScriptedReply> replies;
+    std::uint32_t status;
+    std::size_t transfers;
+};
+
+class ReadFailures : public ChannelTest, public ::testing::WithParamInterface<ReadFailure>
+{
+};
+
+TEST_P(ReadFailures, askForTheReasonOnlyAfterARefusedReply)
+{
+    auto core = openCore();
+    device->writeErrors.assign(GetParam().writeErrors.begin(), GetParam().writeErrors.end());
+    device->readReplies.assign(GetParam().replies.begin(), GetParam().replies.end());
+    SKTL_AlignedBuffer buffer(8192, "test");
+
+    EXPECT_EQ(core->SK_ConfigRead(buffer.data(), 8192, SK_READ_USER_MESSAGE, 3), GetParam().status);
+    EXPECT_EQ(device->transfers.size(), GetParam().transfers);
+    EXPECT_TRUE(device->readReplies.empty()) << "a reply was left unread";
+}
+
+const ScriptedReply kRefused{SK_SYSERR_GEN_FAILURE, {}};
+
+INSTANTIATE_TEST_SUITE_P(
+    Transfers, ReadFailures,
+    ::testing::Values(
+        ReadFailure{"request not taken", {SK_SYSERR_GEN_FAILURE}, {}, SK_STS_FAILURE, 1},
+        ReadFailure{"request at end of file", {SK_SYSERR_HANDLE_EOF}, {}, SK_STS_EOF, 1},
+        ReadFailure{"reply refused, reason told",
+                    {},
+                    {kRefused, ScriptedDevice::statusReply(SK_STS_DEVICE_IS_BUSY)},
+                    SK_STS_DEVICE_IS_BUSY,
+                    4},
+        ReadFailure{"reply refused, reason request not taken",
+                    {SK_SYSERR_NONE, SK_SYSERR_HANDLE_EOF},
+                    {kRefused},
+                    SK_STS_EOF,
+                    3},
+        ReadFailure{
+            "reply refused, reason refused too", {}, {kRefused, kRefused}, SK_STS_FAILURE, 4}),
+    [](const ::testing::TestParamInfo<ReadFailure> &p) {
+        std::string name;
+        for (const char *c = p.param.what; *c; ++c)
+            if (std::isalnum(static_cast<unsigned char>(*c)))
+                name += *c;
+        return name;
+    });
 
 TEST_F(ChannelTest, endOfFileIsResultTwoAndNeedsNoReason)
 {
@@ -304,9 +361,9 @@ TEST_F(ChannelTest, unbufferedHandleRefusesUnalignedTransfers)
     auto core = openCore();
     SKTL_AlignedBuffer buffer(8192, "test");
     testing::internal::CaptureStdout();
-    EXPECT_EQ(SKTL_DeviceTransfer(false, core->Handle, buffer.data() + 8, 512, 1024, nullptr,
-                                  nullptr),
-              SK_STS_FAILURE);
+    EXPECT_EQ(
+        SKTL_DeviceTransfer(false, core->Handle, buffer.data() + 8, 512, 1024, nullptr, nullptr),
+        SK_STS_FAILURE);
     EXPECT_EQ(SKTL_DeviceTransfer(true, core->Handle, buffer.data(), 512, 100, nullptr, nullptr),
               SK_STS_FAILURE);
     const std::string printed = testing::internal::GetCapturedStdout();
@@ -327,8 +384,8 @@ TEST_F(ChannelTest, callbackFormReturnsOneAndReportsTheResult)
     auto callback = [](std::uint32_t status, void *context, std::uint32_t bytes) {
         *static_cast<Seen *>(context) = Seen{status, bytes};
     };
-    EXPECT_EQ(SKTL_DeviceTransfer(true, core->Handle, buffer.data(), kChannelPosition, 1024,
-                                  &seen, callback),
+    EXPECT_EQ(SKTL_DeviceTransfer(true, core->Handle, buffer.data(), kChannelPosition, 1024, &seen,
+                                  callback),
               1u);
     EXPECT_EQ(seen.status, SK_STS_EOF);
     EXPECT_EQ(seen.bytes, 1024u);
@@ -365,9 +422,10 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         WalkCase{"first tag 0", ImageBuilder(1).raw(0).bytes(), 0, 0},
         WalkCase{"header only", ImageBuilder(1).bytes(), 0, 0},
-        WalkCase{"unknown tag ends the list",
-                 ImageBuilder(1).record(SK_TAG_DISK, 128).raw(1234).record(SK_TAG_DISK, 128).bytes(),
-                 1, 0},
+        WalkCase{
+            "unknown tag ends the list",
+            ImageBuilder(1).record(SK_TAG_DISK, 128).raw(1234).record(SK_TAG_DISK, 128).bytes(), 1,
+            0},
         WalkCase{"zero-length array", arrayWithLength(0), 1, 0},
         WalkCase{"array shorter than its fixed part", arrayWithLength(200), 1, 0},
         WalkCase{"array running past the image", arrayWithLength(0x7FFFFFF0u), 1, 0},

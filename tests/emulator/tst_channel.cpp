@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 using namespace sk_emu;
 
 namespace {
@@ -17,11 +20,11 @@ protected:
     // A write command the host accepts: it raises the generation, like a rescan.
     void acceptRescans()
     {
-        scope.host->setCommandHandler(kCommandRescan, [this](Host &, Model &, const std::uint8_t *,
-                                                             std::uint32_t) {
-            ++handled;
-            return CommandResult{1, true};
-        });
+        scope.host->setCommandHandler(kCommandRescan,
+                                      [this](Host &, Model &, const std::uint8_t *, std::uint32_t) {
+                                          ++handled;
+                                          return CommandResult{1, true};
+                                      });
     }
 
     std::uint32_t sendRescan(SK_Core &core)
@@ -130,8 +133,7 @@ TEST_P(EmulatedReads, answerOrRefuseWithTheDriversStatus)
 INSTANTIATE_TEST_SUITE_P(
     ReadCodes, EmulatedReads,
     ::testing::Values(ReadCase{"event log", 4098, 1}, ReadCase{"statistics", 4103, 1},
-                      ReadCase{"statistics with reset", 4104, 1},
-                      ReadCase{"last status", 4118, 1},
+                      ReadCase{"statistics with reset", 4104, 1}, ReadCase{"last status", 4118, 1},
                       ReadCase{"unknown read code", 4200, SK_STS_BAD_CONFIG_FUNCTION},
                       ReadCase{"driver info without a handler", 4105, SK_STS_BAD_CONFIG_FUNCTION}));
 
@@ -161,10 +163,72 @@ TEST_F(EmulatedChannel, refusedAndFailedRequestsReachTheCaller)
     scope.host->refuseNextRequests(1, SK_STS_DEVICE_IS_BUSY);
     EXPECT_EQ(core.SK_ConfigRead(reply.data(), 8192, 4098, 3), SK_STS_DEVICE_IS_BUSY);
 
+    // A request that never reached the drivers has no reason to ask for: the channel's
+    // last status (40 from above) must not be taken for it.
+    scope.host->failNextTransfers(1);
+    EXPECT_EQ(core.SK_ConfigRead(reply.data(), 8192, 4098, 3), SK_STS_FAILURE);
+
     scope.host->failNextTransfers(1);
     SK_Core unlucky(".", "Core1", 0);
     EXPECT_EQ(unlucky.ChannelId, 0u);
 }
+
+// Below the console: the drivers take every read request at the write and refuse it at
+// the read, keeping the reason for the read of the last status.
+struct RefusedRead
+{
+    const char *what;
+    std::uint32_t refusal; // a refusal fault, or 0
+    std::uint32_t apiLevel;
+    std::uint32_t status;
+};
+
+class RefusedReads : public EmulatedChannel, public ::testing::WithParamInterface<RefusedRead>
+{
+protected:
+    std::vector<std::uint8_t> readRequest(std::uint32_t readCode, std::uint32_t apiLevel) const
+    {
+        std::vector<std::uint8_t> request(8192, 0);
+        SK_PutU32(request.data(), SK_HDR_COMMAND, SK_COMMAND_READ);
+        SK_PutU32(request.data(), SK_HDR_CHANNEL, channel);
+        SK_PutU32(request.data(), SK_HDR_API_LEVEL, apiLevel);
+        SK_PutU32(request.data(), SK_HDR_API_REVISION, 1);
+        SK_PutU32(request.data(), SK_HDR_READ_CODE, readCode);
+        return request;
+    }
+
+    std::uint32_t channel = 0;
+};
+
+TEST_P(RefusedReads, areTakenAtTheWriteAndRefusedAtTheRead)
+{
+    Host &host = *scope.host;
+    const std::uint64_t session = host.open("\\\\.\\SKConfig0", 8, 3);
+    ASSERT_NE(session, 0u);
+    std::vector<std::uint8_t> reply(8192, 0);
+    ASSERT_EQ(host.read(session, 0, reply.data(), 1024).systemError, SK_SYSERR_NONE);
+    channel = SK_GetU32(reply.data(), 0);
+    const std::uint64_t position = channel * 512ull;
+    if (GetParam().refusal)
+        host.refuseNextRequests(1, GetParam().refusal);
+
+    auto request = readRequest(SK_READ_USER_MESSAGE, GetParam().apiLevel);
+    EXPECT_EQ(host.write(session, position, request.data(), 8192).systemError, SK_SYSERR_NONE)
+        << "the request is taken";
+    EXPECT_EQ(host.read(session, position, reply.data(), 8192).systemError, kTransferRefused);
+
+    request = readRequest(SK_READ_LAST_STATUS, 2);
+    EXPECT_EQ(host.write(session, position, request.data(), 8192).systemError, SK_SYSERR_NONE);
+    ASSERT_EQ(host.read(session, position, reply.data(), 8192).systemError, SK_SYSERR_NONE);
+    EXPECT_EQ(SK_GetU32(reply.data(), 0), GetParam().status);
+    host.close(session);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reasons, RefusedReads,
+    ::testing::Values(RefusedRead{"refusal", SK_STS_DEVICE_IS_BUSY, 2, SK_STS_DEVICE_IS_BUSY},
+                      RefusedRead{"apiLevel", 0, 3, SK_STS_UNSUPPORTED_API_VERSION}),
+    [](const ::testing::TestParamInfo<RefusedRead> &p) { return std::string(p.param.what); });
 
 TEST_F(EmulatedChannel, eventLogIsReadByCursor)
 {
@@ -221,8 +285,8 @@ TEST_F(EmulatedChannel, statisticsMoveWithTheClockAndResetPerInterval)
     const std::uint64_t coreRead = SK_GetU64(reply.data(), 576 + 8 * 4);
     const std::uint64_t busWrite = SK_GetU64(reply.data(), 576 + 8 * 3);
     const std::uint64_t coreWrite = SK_GetU64(reply.data(), 576 + 8 * 5);
-    EXPECT_GT(coreRead, 3 * 1953u);       // a few MB/s on each array
-    EXPECT_GT(busWrite, coreWrite);       // mirrors and parity write more than they get
+    EXPECT_GT(coreRead, 3 * 1953u); // a few MB/s on each array
+    EXPECT_GT(busWrite, coreWrite); // mirrors and parity write more than they get
     EXPECT_GT(SK_GetU32(reply.data(), 632 + 4 * 9), 0u); // host requests
     EXPECT_EQ(std::string(reinterpret_cast<const char *>(reply.data() + 512)).rfind("SKRAID", 0),
               0u);
@@ -274,8 +338,8 @@ TEST_F(EmulatedChannel, storageViewAnswersFromTheModel)
     EXPECT_FALSE(view.isProcessRunning("skpopup.exe"));
     const auto versions = view.fileVersions("C:\\Windows\\System32\\drivers\\", "sk*.sys");
     ASSERT_EQ(versions.size(), 3u);
-    EXPECT_EQ(versions[0].strings[7], (std::pair<std::string, std::string>{"ProductVersion",
-                                                                           "9.0.0.1182"}));
+    EXPECT_EQ(versions[0].strings[7],
+              (std::pair<std::string, std::string>{"ProductVersion", "9.0.0.1182"}));
     EXPECT_EQ(view.serviceControl("skraid", "", 80), 1u);
     EXPECT_EQ(view.serviceControl("skraid", "", 48), 1u);
     EXPECT_EQ(view.serviceControl("skraid", "", 80), 3u);
