@@ -75,8 +75,8 @@ public:
     }
 
     // `count` device references from `at`; false when they run past the request.
-    bool references(std::size_t at, std::uint32_t count,
-                    std::vector<std::uint64_t> &ids, std::vector<std::uint32_t> &routes) const
+    bool references(std::size_t at, std::uint32_t count, std::vector<std::uint64_t> &ids,
+                    std::vector<std::uint32_t> &routes) const
     {
         if (count > 1024 || !fits(at, static_cast<std::size_t>(count) * kRefSize))
             return false;
@@ -112,8 +112,8 @@ Array *referencedArray(Model &m, std::uint64_t id, std::uint32_t deviceRoute)
 
 bool isRedundant(const Layout &l)
 {
-    return (l.type == code::TypeMirrorStripe && l.secondCount >= 2) || l.type == code::TypeParity
-           || l.type == code::TypeDoubleParity;
+    return (l.type == code::TypeMirrorStripe && l.secondCount >= 2) || l.type == code::TypeParity ||
+           l.type == code::TypeDoubleParity;
 }
 
 bool diskInAnyArray(const Model &m, std::uint64_t id)
@@ -231,8 +231,8 @@ bool shapeIsValid(std::uint32_t type, std::uint32_t first, std::uint32_t second)
 bool levelDisabled(const Model &m, std::uint32_t type, std::uint32_t first, std::uint32_t second)
 {
     const std::string level = levelName(type, first, second);
-    return std::find(m.host.disabledLevels.begin(), m.host.disabledLevels.end(), level)
-           != m.host.disabledLevels.end();
+    return std::find(m.host.disabledLevels.begin(), m.host.disabledLevels.end(), level) !=
+           m.host.disabledLevels.end();
 }
 
 std::uint32_t cacheTagSizeOf(std::uint32_t code)
@@ -328,9 +328,9 @@ void fitCapacity(Layout &layout, std::uint64_t wantedMiB)
     for (Member &mem : layout.members) {
         mem.size = mem.dataSize = member;
     }
-    layout.capacity = std::min(wanted, layoutCapacity(layout.type, layout.firstCount,
-                                                      layout.secondCount, member,
-                                                      member * layout.members.size()));
+    layout.capacity =
+        std::min(wanted, layoutCapacity(layout.type, layout.firstCount, layout.secondCount, member,
+                                        member * layout.members.size()));
 }
 
 // Resolves the drive references of a create or transform.
@@ -411,7 +411,8 @@ Plan planTier(Model &m, const Request &req, const CreateFields &f, std::vector<A
     plan.layout.firstCount = 1;
     plan.layout.secondCount = 2;
     for (Array *a : parts)
-        plan.layout.members.push_back(Member{a->id, 0, a->layout.capacity, 0, a->layout.capacity, 0});
+        plan.layout.members.push_back(
+            Member{a->id, 0, a->layout.capacity, 0, a->layout.capacity, 0});
     // A cache adds no room; a tier offers both arrays' room.
     plan.layout.capacity = f.cacheWord ? parts[0]->layout.capacity
                                        : parts[0]->layout.capacity + parts[1]->layout.capacity;
@@ -423,9 +424,9 @@ Plan planCreate(Model &m, const Request &req, const CreateFields &f, std::vector
 {
     Plan plan;
     if (!shapeIsValid(f.type, f.first, f.second) || f.first * f.second != f.count) {
-        plan.status = f.type == code::TypeTier || f.type == code::TypeVolume
-                              || f.type == code::TypeMirrorStripe || f.type == code::TypeParity
-                              || f.type == code::TypeDoubleParity || f.type == code::TypeRaidable
+        plan.status = f.type == code::TypeTier || f.type == code::TypeVolume ||
+                              f.type == code::TypeMirrorStripe || f.type == code::TypeParity ||
+                              f.type == code::TypeDoubleParity || f.type == code::TypeRaidable
                           ? st::InvalidParameter
                           : st::NotSupported;
         return plan;
@@ -437,7 +438,8 @@ Plan planCreate(Model &m, const Request &req, const CreateFields &f, std::vector
     if (f.type == code::TypeTier)
         return planTier(m, req, f, parts);
     std::vector<Disk *> disks;
-    if (const std::uint32_t why = resolveDrives(m, req, f.drivesAt, f.count, disks); why != st::Ok) {
+    if (const std::uint32_t why = resolveDrives(m, req, f.drivesAt, f.count, disks);
+        why != st::Ok) {
         plan.status = why;
         return plan;
     }
@@ -550,8 +552,8 @@ Plan planTransform(Model &m, const Request &req, const TransformFields &f, Array
         return plan;
     }
     const std::uint32_t source = array->layout.type;
-    if (source == code::TypeTier || source == code::TypeLegacy || source == code::TypeForeign
-        || f.type == code::TypeTier || f.type == code::TypeRaidable) {
+    if (source == code::TypeTier || source == code::TypeLegacy || source == code::TypeForeign ||
+        f.type == code::TypeTier || f.type == code::TypeRaidable) {
         plan.status = st::NotSupported;
         return plan;
     }
@@ -572,7 +574,8 @@ Plan planTransform(Model &m, const Request &req, const TransformFields &f, Array
         return plan;
     }
     std::vector<Disk *> disks;
-    if (const std::uint32_t why = resolveDrives(m, req, f.drivesAt, f.count, disks); why != st::Ok) {
+    if (const std::uint32_t why = resolveDrives(m, req, f.drivesAt, f.count, disks);
+        why != st::Ok) {
         plan.status = why;
         return plan;
     }
@@ -584,8 +587,9 @@ Plan planTransform(Model &m, const Request &req, const TransformFields &f, Array
         }
     }
     for (Disk *d : disks) {
-        const bool isMember = std::any_of(array->layout.members.begin(), array->layout.members.end(),
-                                          [&](const Member &mem) { return mem.disk == d->id; });
+        const bool isMember =
+            std::any_of(array->layout.members.begin(), array->layout.members.end(),
+                        [&](const Member &mem) { return mem.disk == d->id; });
         if (isMember)
             continue;
         std::uint64_t offset = 0;
@@ -643,9 +647,10 @@ void forgetArray(Model &m, std::uint64_t id)
     }
     for (Volume &v : m.volumes)
         v.arrays.erase(std::remove(v.arrays.begin(), v.arrays.end(), id), v.arrays.end());
-    m.volumes.erase(std::remove_if(m.volumes.begin(), m.volumes.end(),
-                                   [](const Volume &v) { return v.arrays.empty() && v.disks.empty(); }),
-                    m.volumes.end());
+    m.volumes.erase(
+        std::remove_if(m.volumes.begin(), m.volumes.end(),
+                       [](const Volume &v) { return v.arrays.empty() && v.disks.empty(); }),
+        m.volumes.end());
     m.arrays.erase(std::remove_if(m.arrays.begin(), m.arrays.end(),
                                   [id](const Array &a) { return a.id == id; }),
                    m.arrays.end());
@@ -712,8 +717,9 @@ CommandResult initializeDisks(Host &, Model &m, std::uint8_t *bytes, std::uint32
         // A disk still carrying a healthy member can't be wiped under its array.
         for (const Array &a : m.arrays) {
             for (const Member &mem : a.layout.members) {
-                if (mem.disk == d->id && !(mem.flags & (code::MemberFailed | code::MemberOffline))
-                    && a.layout.type != code::TypeLegacy)
+                if (mem.disk == d->id &&
+                    !(mem.flags & (code::MemberFailed | code::MemberOffline)) &&
+                    a.layout.type != code::TypeLegacy)
                     return refused(st::InUse);
             }
         }
@@ -825,8 +831,8 @@ CommandResult manageSpares(Model &m, const Request &req, Array *array, bool add,
                     return refused(st::NotSupported);
                 if (array->spares.size() >= 4)
                     return refused(st::NoResource);
-                if (!array->layout.members.empty()
-                    && d->capacity - kMetadataSectors < array->layout.members[0].size)
+                if (!array->layout.members.empty() &&
+                    d->capacity - kMetadataSectors < array->layout.members[0].size)
                     return refused(st::NoSpace);
             }
         } else if (global ? !d->globalSpare : (!array || dedicatedSpareOwner(m, d->id) != array)) {
@@ -1012,8 +1018,8 @@ CommandResult driveLetter(Host &, Model &m, std::uint8_t *bytes, std::uint32_t s
             return refused(st::InUse);
         m.volumes.push_back(Volume{letter, {a->id}, {}, false, ""});
     } else {
-        if (it == m.volumes.end() || std::find(it->arrays.begin(), it->arrays.end(), a->id)
-                                         == it->arrays.end())
+        if (it == m.volumes.end() ||
+            std::find(it->arrays.begin(), it->arrays.end(), a->id) == it->arrays.end())
             return refused(st::InvalidParameter);
         m.volumes.erase(it);
     }
@@ -1022,7 +1028,12 @@ CommandResult driveLetter(Host &, Model &m, std::uint8_t *bytes, std::uint32_t s
 
 // --- Disks (command 29 and its reply read) -----------------------------------------
 
-std::vector<std::uint8_t> smartReply(const Disk &d, bool nvme)
+// The disks have been running since the host's clock started: their power-on hours
+// move on with it, while the scenario holds the hours they had before.
+constexpr std::uint64_t kMsPerHour = 3600000;
+constexpr std::uint8_t kAtaPowerOnHours = 9;
+
+std::vector<std::uint8_t> smartReply(const Disk &d, bool nvme, std::uint64_t hoursRunning)
 {
     std::vector<std::uint8_t> data(512, 0);
     if (nvme) {
@@ -1038,7 +1049,7 @@ std::vector<std::uint8_t> smartReply(const Disk &d, bool nvme)
         put64(data.data(), 80, h.hostWrites);
         put64(data.data(), 96, h.busyMinutes);
         put64(data.data(), 112, h.powerCycles);
-        put64(data.data(), 128, h.powerOnHours);
+        put64(data.data(), 128, h.powerOnHours + hoursRunning);
         put64(data.data(), 144, h.unsafeShutdowns);
         put64(data.data(), 160, h.mediaErrors);
         put64(data.data(), 176, h.errorLogEntries);
@@ -1052,8 +1063,9 @@ std::vector<std::uint8_t> smartReply(const Disk &d, bool nvme)
         put16(data.data(), at + 1, a.flags);
         put8(data.data(), at + 3, a.current);
         put8(data.data(), at + 4, a.worst);
+        const std::uint64_t raw = a.id == kAtaPowerOnHours ? a.raw + hoursRunning : a.raw;
         for (int b = 0; b < 6; ++b)
-            put8(data.data(), at + 5 + b, static_cast<std::uint32_t>(a.raw >> (8 * b)));
+            put8(data.data(), at + 5 + b, static_cast<std::uint32_t>(raw >> (8 * b)));
         put8(data.data(), at + 11, a.threshold);
     }
     return data;
@@ -1105,7 +1117,7 @@ std::uint32_t manageOneDisk(Host &host, Model &m, Disk &d, std::uint32_t subcode
         const bool nvme = subcode == disk::SmartNvme;
         if (nvme ? !d.nvme : (d.smartVersion == 0 || d.isNvme()))
             return st::NotSupported;
-        host.setPendingReply(channel, smartReply(d, nvme));
+        host.setPendingReply(channel, smartReply(d, nvme, host.clock().nowMs() / kMsPerHour));
         return st::Ok;
     }
     default:
@@ -1313,8 +1325,8 @@ bool advanceTasks(Model &m, std::uint64_t elapsedMs, bool &progressed)
 
 void failRunningTask(Model &m, Array &a)
 {
-    if (a.task.type == code::TaskNone || a.task.type == code::TaskRestore
-        || a.task.state == code::TaskFailed)
+    if (a.task.type == code::TaskNone || a.task.type == code::TaskRestore ||
+        a.task.state == code::TaskFailed)
         return;
     logTask(m, a, &TaskWords::failed);
     a.task.state = code::TaskFailed;
@@ -1324,18 +1336,19 @@ void failRunningTask(Model &m, Array &a)
 bool takeSpareForRebuild(Model &m, Array &a)
 {
     // A failed task gives way to the rebuild; a running one keeps the array busy.
-    if (!isRedundant(a.layout) || a.state != code::ArrayCritical
-        || (a.task.type != code::TaskNone && a.task.state != code::TaskFailed))
+    if (!isRedundant(a.layout) || a.state != code::ArrayCritical ||
+        (a.task.type != code::TaskNone && a.task.state != code::TaskFailed))
         return false;
-    auto lost = std::find_if(a.layout.members.begin(), a.layout.members.end(), [](const Member &mem) {
-        return mem.disk == 0 || (mem.flags & (code::MemberFailed | code::MemberOffline
-                                              | code::MemberNotPresent));
-    });
+    auto lost =
+        std::find_if(a.layout.members.begin(), a.layout.members.end(), [](const Member &mem) {
+            return mem.disk == 0 || (mem.flags & (code::MemberFailed | code::MemberOffline |
+                                                  code::MemberNotPresent));
+        });
     if (lost == a.layout.members.end())
         return false;
     auto fits = [&](const Disk &d) {
-        return d.attached && d.state == code::DiskOnline && !diskInAnyArray(m, d.id)
-               && d.capacity - kMetadataSectors >= lost->size;
+        return d.attached && d.state == code::DiskOnline && !diskInAnyArray(m, d.id) &&
+               d.capacity - kMetadataSectors >= lost->size;
     };
     Disk *spare = nullptr;
     for (std::uint64_t id : a.spares) {

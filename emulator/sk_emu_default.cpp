@@ -4,6 +4,8 @@
 #include "emulator/sk_emu_events.h"
 #include "emulator/sk_emu_scenario.h"
 
+#include <algorithm>
+
 namespace sk_emu {
 
 namespace {
@@ -24,14 +26,43 @@ SmartAttribute attr(std::uint8_t id, std::uint8_t current, std::uint8_t worst, s
     return SmartAttribute{id, flags, current, worst, raw, threshold};
 }
 
-// Temperature raw value: current in the low word, lifetime min and max above it.
+// A number that stays the same for one drive on every run, so that values which differ
+// between drives of one model (error rates, load cycles) are not all alike.
+std::uint64_t driveSeed(const char *serial, std::uint64_t capacity)
+{
+    std::uint64_t hash = 1469598103934665603ull; // FNV-1a
+    for (const char *c = serial; *c; ++c)
+        hash = (hash ^ static_cast<unsigned char>(*c)) * 1099511628211ull;
+    return hash ^ capacity;
+}
+
+std::uint64_t spread(std::uint64_t seed, unsigned salt, std::uint64_t low, std::uint64_t high)
+{
+    return low + ((seed >> (salt % 48)) ^ (seed * (salt + 1))) % (high - low + 1);
+}
+
+// Temperature raw value as most hard disks keep it: the current value in the low word,
+// the lifetime minimum and maximum in the two words above.
 std::uint64_t temperatureRaw(std::uint64_t now, std::uint64_t low, std::uint64_t high)
 {
     return now | (low << 16) | (high << 32);
 }
 
-Disk sataSsd(std::uint64_t id, std::uint32_t port, const char *serial, std::uint64_t hours,
-             std::uint64_t cycles, std::uint64_t celsius)
+std::uint8_t percentLeft(std::uint64_t used, std::uint64_t life)
+{
+    return static_cast<std::uint8_t>(100 - std::min<std::uint64_t>(99, used * 100 / life));
+}
+
+// How a disk has lived so far.
+struct Usage
+{
+    std::uint64_t hours;
+    std::uint64_t cycles;
+    std::uint64_t celsius;
+    std::uint64_t reallocated = 0; // grown defects: sectors moved to the spare area
+};
+
+Disk sataSsd(std::uint64_t id, std::uint32_t port, const char *serial, const Usage &u)
 {
     Disk d;
     d.id = id;
@@ -43,20 +74,31 @@ Disk sataSsd(std::uint64_t id, std::uint32_t port, const char *serial, std::uint
     d.serial = serial;
     d.firmware = "SVT02B6Q";
     d.vendor = "ATA";
+    const std::uint64_t seed = driveSeed(serial, d.capacity);
+    // A system mirror writes about 2.6 GB an hour; each block takes a program/erase
+    // cycle for every 600 hours or so.
+    const std::uint64_t lbasWritten = u.hours * spread(seed, 1, 4900000, 5600000);
+    const std::uint64_t wear = u.hours / 600 + spread(seed, 2, 0, 2);
     d.smartVersion = 1;
-    d.smart = {attr(5, 100, 100, 0, 10, 0x33),        attr(9, 98, 98, hours, 0),
-               attr(12, 99, 99, cycles, 0),           attr(177, 99, 99, 6, 0, 0x13),
-               attr(179, 100, 100, 0, 10, 0x13),      attr(181, 100, 100, 0, 10),
-               attr(182, 100, 100, 0, 10),            attr(183, 100, 100, 0, 10, 0x13),
-               attr(187, 100, 100, 0, 0),             attr(190, 100 - celsius, 61, celsius, 0),
-               attr(195, 200, 200, 0, 0, 0x1A),       attr(199, 100, 100, 0, 0, 0x3E),
-               attr(235, 99, 99, 41, 0, 0x12),        attr(241, 99, 99, 18236541234ull, 0, 0x32)};
+    d.smart = {attr(5, 100, 100, u.reallocated, 10, 0x33),
+               attr(9, percentLeft(u.hours, 100000), percentLeft(u.hours, 100000), u.hours, 0),
+               attr(12, 99, 99, u.cycles, 0),
+               attr(177, percentLeft(wear, 600), percentLeft(wear, 600), wear, 0, 0x13),
+               attr(179, 100, 100, 0, 10, 0x13),
+               attr(181, 100, 100, 0, 10),
+               attr(182, 100, 100, 0, 10),
+               attr(183, 100, 100, 0, 10, 0x13),
+               attr(187, 100, 100, 0, 0),
+               attr(190, static_cast<std::uint8_t>(100 - u.celsius), 61, u.celsius, 0),
+               attr(195, 200, 200, 0, 0, 0x1A),
+               attr(199, 100, 100, 0, 0, 0x3E),
+               attr(235, 99, 99, u.cycles / 5 + spread(seed, 3, 0, 6), 0, 0x12),
+               attr(241, 99, 99, lbasWritten, 0, 0x32)};
     return d;
 }
 
-Disk sataHdd(std::uint64_t id, std::uint32_t port, const char *model, const char *serial,
-             const char *firmware, std::uint64_t hours, std::uint64_t cycles,
-             std::uint64_t celsius)
+Disk hardDisk(std::uint64_t id, std::uint32_t port, const char *model, const char *serial,
+              const char *firmware)
 {
     Disk d;
     d.id = id;
@@ -69,28 +111,90 @@ Disk sataHdd(std::uint64_t id, std::uint32_t port, const char *model, const char
     d.serial = serial;
     d.firmware = firmware;
     d.vendor = "ATA";
-    d.smartVersion = 10;
-    d.smart = {attr(1, 82, 64, 158217064, 44, 0x0F),
-               attr(3, 92, 91, 0, 0, 0x03),
-               attr(4, 100, 100, cycles + 3, 20, 0x32),
-               attr(5, 100, 100, 0, 10, 0x33),
-               attr(7, 86, 60, 412698755, 45, 0x0F),
-               attr(9, 96, 96, hours, 0, 0x32),
-               attr(10, 100, 100, 0, 97, 0x13),
-               attr(12, 100, 100, cycles, 20, 0x32),
-               attr(187, 100, 100, 0, 0, 0x32),
-               attr(188, 100, 100, 0, 0, 0x32),
-               attr(190, 100 - celsius, 58, 0x2A1D0000ull | celsius, 40, 0x22),
-               attr(192, 100, 100, 14, 0, 0x32),
-               attr(193, 99, 99, 2811, 0, 0x32),
-               attr(194, static_cast<std::uint8_t>(celsius), 42, temperatureRaw(celsius, 19, 42), 0, 0x22),
-               attr(197, 100, 100, 0, 0, 0x12),
-               attr(198, 100, 100, 0, 0, 0x10),
-               attr(199, 200, 200, 0, 0, 0x3E)};
     return d;
 }
 
-Disk nvmeDisk(std::uint64_t id, std::uint32_t port)
+// Size of a drive's spare area in sectors: the reallocation count's value reaches its
+// threshold when nearly all of it is used.
+constexpr std::uint64_t kSpareSectors = 3400;
+
+Disk seagateHdd(std::uint64_t id, std::uint32_t port, const char *serial, const Usage &u)
+{
+    Disk d = hardDisk(id, port, "ST4000NM000A-2HZ100", serial, "TN05");
+    const std::uint64_t seed = driveSeed(serial, d.capacity);
+    const std::uint64_t errorRate = spread(seed, 1, 20000000, 240000000);
+    const std::uint64_t seekErrors = u.hours * 30000 + spread(seed, 2, 0, 9999999);
+    const std::uint64_t loadCycles = u.hours / 5 + spread(seed, 3, 0, 400);
+    const std::uint64_t retracts = u.cycles / 7 + spread(seed, 4, 0, 5);
+    const std::uint64_t low = 19 + spread(seed, 5, 0, 3),
+                        high = u.celsius + 5 + spread(seed, 6, 0, 4);
+    const std::uint8_t spare = percentLeft(u.reallocated, kSpareSectors);
+    // A drive that moves sectors also reports the reads it could not correct.
+    const std::uint64_t pending = u.reallocated / 200, uncorrectable = u.reallocated / 450;
+    d.smartVersion = 10;
+    d.smart = {
+        attr(1, 82, 64, errorRate, 44, 0x0F),
+        attr(3, 92, 91, 0, 0, 0x03),
+        attr(4, 100, 100, u.cycles + 3, 20, 0x32),
+        attr(5, spare, spare, u.reallocated, 10, 0x33),
+        attr(7, 86, 60, seekErrors, 45, 0x0F),
+        attr(9, percentLeft(u.hours, 87600), percentLeft(u.hours, 87600), u.hours, 0),
+        attr(10, 100, 100, 0, 97, 0x13),
+        attr(12, 100, 100, u.cycles, 20, 0x32),
+        attr(18, 100, 100, 0, 1, 0x0B),
+        attr(187, static_cast<std::uint8_t>(100 - uncorrectable),
+             static_cast<std::uint8_t>(100 - uncorrectable), uncorrectable, 0, 0x32),
+        attr(188, 100, 100, 0, 0, 0x32),
+        attr(190, static_cast<std::uint8_t>(100 - u.celsius), static_cast<std::uint8_t>(100 - high),
+             (high << 24) | (low << 16) | u.celsius, 40, 0x22),
+        attr(192, 100, 100, retracts, 0, 0x32),
+        attr(193, percentLeft(loadCycles, 600000), percentLeft(loadCycles, 600000), loadCycles, 0),
+        attr(194, static_cast<std::uint8_t>(u.celsius), static_cast<std::uint8_t>(high),
+             temperatureRaw(u.celsius, low, high), 0, 0x22),
+        attr(195, 82, 64, errorRate, 0, 0x1A),
+        attr(197, 100, 100, pending, 0, 0x12),
+        attr(198, 100, 100, pending, 0, 0x10),
+        attr(199, 200, 200, 0, 0, 0x3E),
+        attr(200, 100, 100, 0, 1, 0x23),
+        attr(240, 100, 253, u.hours - u.hours / 40, 0, 0),
+        attr(241, 100, 253, u.hours * spread(seed, 7, 1100000, 1500000), 0, 0),
+        attr(242, 100, 253, u.hours * spread(seed, 8, 2600000, 3900000), 0, 0)};
+    return d;
+}
+
+Disk westernDigitalHdd(std::uint64_t id, std::uint32_t port, const char *serial, const Usage &u)
+{
+    Disk d = hardDisk(id, port, "WDC WD40EFZX-68AWUN0", serial, "81.00B81");
+    const std::uint64_t seed = driveSeed(serial, d.capacity);
+    const std::uint64_t spinUpMs = spread(seed, 1, 6200, 6900);
+    const std::uint8_t spare = static_cast<std::uint8_t>(
+        200 - std::min<std::uint64_t>(199, u.reallocated * 200 / kSpareSectors));
+    // These drives keep the temperature's current value only; the normalised value
+    // counts down from about 150.
+    const auto tempValue = static_cast<std::uint8_t>(150 - u.celsius);
+    d.smartVersion = 16;
+    d.smart = {attr(1, 200, 200, 0, 51, 0x2F),
+               attr(3, static_cast<std::uint8_t>(300 - spinUpMs / 50),
+                    static_cast<std::uint8_t>(296 - spinUpMs / 50), spinUpMs, 21, 0x27),
+               attr(4, 100, 100, u.cycles + 1, 0),
+               attr(5, spare, spare, u.reallocated, 140, 0x33),
+               attr(7, 200, 200, 0, 0, 0x2E),
+               attr(9, percentLeft(u.hours, 87600), percentLeft(u.hours, 87600), u.hours, 0),
+               attr(10, 100, 253, 0, 0),
+               attr(11, 100, 253, 0, 0),
+               attr(12, 100, 100, u.cycles, 0),
+               attr(192, 200, 200, u.cycles / 9 + spread(seed, 2, 0, 3), 0),
+               attr(193, 200, 200, u.hours / 30 + spread(seed, 3, 0, 90), 0),
+               attr(194, tempValue, static_cast<std::uint8_t>(tempValue - 11), u.celsius, 0, 0x22),
+               attr(196, 200, 200, 0, 0),
+               attr(197, 200, 200, 0, 0),
+               attr(198, 100, 253, 0, 0, 0x30),
+               attr(199, 200, 200, 0, 0),
+               attr(200, 100, 253, 0, 0, 0x08)};
+    return d;
+}
+
+Disk nvmeDisk(std::uint64_t id, std::uint32_t port, const char *serial, const Usage &u)
 {
     Disk d;
     d.id = id;
@@ -99,22 +203,25 @@ Disk nvmeDisk(std::uint64_t id, std::uint32_t port)
     d.portType = code::PortNvme | code::PortNvmeGen4 | code::PortNvmeX4;
     d.features = code::FeatureWriteCache | code::FeatureSmartPolling;
     d.model = "Samsung SSD 990 PRO 2TB";
-    d.serial = "S7HENJ0X308215L";
+    d.serial = serial;
     d.firmware = "4B2QJXD7";
     d.vendor = "NVMe";
+    const std::uint64_t seed = driveSeed(serial, d.capacity);
+    // A build and scratch disk: data units are 1000 sectors of 512 bytes, about 5 TB
+    // written a thousand hours; commands average some 45 KB.
     NvmeHealth h;
-    h.temperatureKelvin = 311;
+    h.temperatureKelvin = static_cast<std::uint16_t>(273 + u.celsius);
     h.availableSpare = 100;
     h.spareThreshold = 10;
-    h.percentUsed = 1;
-    h.dataUnitsRead = 18446521;
-    h.dataUnitsWritten = 9925113;
-    h.hostReads = 212458913;
-    h.hostWrites = 140337402;
-    h.busyMinutes = 391;
-    h.powerCycles = 212;
-    h.powerOnHours = 1873;
-    h.unsafeShutdowns = 9;
+    h.dataUnitsRead = u.hours * spread(seed, 1, 9500, 10200);
+    h.dataUnitsWritten = u.hours * spread(seed, 2, 5100, 5500);
+    h.hostReads = h.dataUnitsRead * 11 + spread(seed, 3, 0, 999999);
+    h.hostWrites = h.dataUnitsWritten * 14 + spread(seed, 4, 0, 999999);
+    h.percentUsed = static_cast<std::uint8_t>(h.dataUnitsWritten / 2400000 / 5 + 1);
+    h.busyMinutes = u.hours / 5 + spread(seed, 5, 0, 20);
+    h.powerCycles = u.cycles;
+    h.powerOnHours = u.hours;
+    h.unsafeShutdowns = u.cycles / 25 + spread(seed, 6, 0, 2);
     d.nvme = h;
     return d;
 }
@@ -173,21 +280,22 @@ Model defaultScenario()
     const std::uint64_t hdd1 = 0x5000C500E4B1D203ull, hdd2 = 0x5000C500E4B1F961ull,
                         hdd3 = 0x5000C500E4B2117Cull, spare = 0x50014EE2C0A93F15ull,
                         nvme = 0x002538B331A0C4D2ull;
-    m.disks = {sataSsd(ssdA, 0, "S6PUNX0T512345X", 3412, 211, 33),
-               sataSsd(ssdB, 1, "S6PUNX0T512398K", 3409, 211, 34),
-               sataHdd(hdd1, 2, "ST4000NM000A-2HZ100", "WX20B1HK", "TN05", 14021, 96, 37),
-               sataHdd(hdd2, 3, "ST4000NM000A-2HZ100", "WX20B1LQ", "TN05", 14019, 96, 38),
-               sataHdd(hdd3, 4, "ST4000NM000A-2HZ100", "WX20C8N3", "TN05", 9867, 71, 36),
-               sataHdd(spare, 5, "WDC WD40EFZX-68AWUN0", "WD-WX42D91N7T1H", "81.00B81", 2210,
-                       14, 31),
-               nvmeDisk(nvme, 6)};
+    // The third hard disk dropped out of the data array once and has been moving
+    // sectors to its spare area since: its reallocation count is past the threshold.
+    m.disks = {sataSsd(ssdA, 0, "S6PUNX0T512345X", {3412, 211, 33}),
+               sataSsd(ssdB, 1, "S6PUNX0T512398K", {3409, 211, 34}),
+               seagateHdd(hdd1, 2, "WX20B1HK", {14021, 96, 37}),
+               seagateHdd(hdd2, 3, "WX20B1LQ", {14019, 96, 38}),
+               seagateHdd(hdd3, 4, "WX20C8N3", {9867, 71, 36, 3128}),
+               westernDigitalHdd(spare, 5, "WD-WX42D91N7T1H", {2210, 14, 31}),
+               nvmeDisk(nvme, 6, "S7HENJ0X308215L", {1873, 212, 38})};
     m.disks[5].globalSpare = true;
 
     Array system = array(0x3C71A9E2D0045B11ull, 1, "System", code::TypeMirrorStripe, 1, 2,
                          {ssdA, ssdB}, usableExtent(kSsd1TB));
     system.priority = 50;
-    Array data = array(0x3C71A9E2D0046E27ull, 2, "Data", code::TypeParity, 1, 3,
-                       {hdd1, hdd2, hdd3}, usableExtent(kHdd4TB));
+    Array data = array(0x3C71A9E2D0046E27ull, 2, "Data", code::TypeParity, 1, 3, {hdd1, hdd2, hdd3},
+                       usableExtent(kHdd4TB));
     data.cachePolicy = code::CacheRead;
     data.generation = 4;
     m.arrays = {system, data};
