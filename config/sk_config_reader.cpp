@@ -5,8 +5,10 @@
 #include "driver/sktl.h"
 
 #include <climits>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <type_traits>
 
 namespace {
 
@@ -46,20 +48,206 @@ std::uint64_t toHex64(const char *value)
     return std::strtoull(value, nullptr, 16);
 }
 
-std::uint32_t toHex32(const char *value)
-{
-    return static_cast<std::uint32_t>(toHex64(value));
-}
-
-std::uint16_t toHex16(const char *value)
-{
-    return static_cast<std::uint16_t>(toHex64(value));
-}
-
 bool is(const char *token, const char *key)
 {
     return token && std::strcmp(token, key) == 0;
 }
+
+// --- Fields of a record line -----------------------------------------------------------
+
+// A converter stores a value into the `size` bytes of a member. Snapshot records are
+// packed, so a member is written bytewise, never through a typed pointer.
+using Converter = bool (*)(char *member, std::size_t size, const char *value);
+
+template <class T>
+void store(char *member, T value)
+{
+    std::memcpy(member, &value, sizeof value);
+}
+
+template <class T>
+bool decimal(char *member, std::size_t, const char *value)
+{
+    static_assert(std::is_same_v<T, std::int32_t>, "decimal fields are 32-bit signed");
+    store(member, toInt(value));
+    return true;
+}
+
+template <class T>
+bool hex(char *member, std::size_t, const char *value)
+{
+    static_assert(std::is_unsigned_v<T>, "hexadecimal fields are unsigned");
+    store(member, static_cast<T>(toHex64(value)));
+    return true;
+}
+
+template <class T>
+bool real(char *member, std::size_t, const char *value)
+{
+    static_assert(std::is_same_v<T, float>, "real fields are floats");
+    store(member, std::strtof(value, nullptr));
+    return true;
+}
+
+// "Y" or "N"; anything else ends the parse.
+template <class T>
+bool yesNo(char *member, std::size_t, const char *value)
+{
+    static_assert(std::is_same_v<T, std::uint32_t>, "flags are 32-bit unsigned");
+    if (!is(value, "Y") && !is(value, "N"))
+        return false;
+    store(member, static_cast<T>(is(value, "Y") ? 1 : 0));
+    return true;
+}
+
+template <class T>
+bool text(char *member, std::size_t size, const char *value)
+{
+    static_assert(std::is_array_v<T>, "text fields are character arrays");
+    SK_CopyText(member, size, value);
+    return true;
+}
+
+// One "KEY: value" pair of a line of `Record`: the key, how its value is read, and
+// where it is stored.
+template <class Record>
+struct Field
+{
+    const char *key;
+    Converter convert;
+    std::size_t at;
+    std::size_t size;
+    bool optional;
+};
+
+#define SK_FIELD_OF(Record, key, convert, member, optional)                                        \
+    Field<Record>                                                                                  \
+    {                                                                                              \
+        key, convert<decltype(Record::member)>, offsetof(Record, member), sizeof(Record::member),  \
+            optional                                                                               \
+    }
+#define SK_FIELD(Record, key, convert, member) SK_FIELD_OF(Record, key, convert, member, false)
+#define SK_OPTIONAL_FIELD(Record, key, convert, member)                                            \
+    SK_FIELD_OF(Record, key, convert, member, true)
+
+// A controller line after its number.
+const Field<SK_ConfigController> kControllerFields[] = {
+    SK_FIELD(SK_ConfigController, "CN:", text, Name),
+    SK_FIELD(SK_ConfigController, "CSN:", hex, SerialNumber),
+    SK_FIELD(SK_ConfigController, "BB:", text, BiosBuild),
+    SK_FIELD(SK_ConfigController, "MX:", hex, MaxArraySize),
+    SK_FIELD(SK_ConfigController, "NP:", decimal, NumberOfPorts),
+    SK_FIELD(SK_ConfigController, "VI:", hex, PciVendorID),
+    SK_FIELD(SK_ConfigController, "DI:", hex, PciDeviceID),
+    SK_FIELD(SK_ConfigController, "SVI:", hex, PciSubVendorID),
+    SK_FIELD(SK_ConfigController, "SDI:", hex, PciSubDeviceID),
+    SK_OPTIONAL_FIELD(SK_ConfigController, "ID:", hex, ControllerId),
+    SK_OPTIONAL_FIELD(SK_ConfigController, "OVI:", hex, OrigPciVendorID),
+    SK_OPTIONAL_FIELD(SK_ConfigController, "ODI:", hex, OrigPciDeviceID),
+    SK_OPTIONAL_FIELD(SK_ConfigController, "LOC:", hex, PciLocation),
+};
+
+// A disk line after its kind: the part every disk has...
+const Field<SK_ConfigDisk> kDiskFields[] = {
+    SK_FIELD(SK_ConfigDisk, "ST:", text, State),
+    SK_FIELD(SK_ConfigDisk, "ID:", hex, DiskId),
+    SK_FIELD(SK_ConfigDisk, "NM:", text, Name),
+};
+
+// ...and, after its controller number, the part a disk behind a controller adds.
+const Field<SK_ConfigDisk> kAttachedDiskFields[] = {
+    SK_FIELD(SK_ConfigDisk, "CH:", decimal, Channel),
+    SK_FIELD(SK_ConfigDisk, "RT:", decimal, Route),
+    SK_FIELD(SK_ConfigDisk, "HD:", decimal, Device),
+    SK_FIELD(SK_ConfigDisk, "FE:", hex, Features),
+    SK_FIELD(SK_ConfigDisk, "GS:", yesNo, GlobalSpare),
+    SK_FIELD(SK_ConfigDisk, "SI:", hex, Capacity),
+    SK_OPTIONAL_FIELD(SK_ConfigDisk, "LS:", hex, LargestFreeSpace),
+    SK_OPTIONAL_FIELD(SK_ConfigDisk, "TS:", hex, TotalFreeSpace),
+    SK_FIELD(SK_ConfigDisk, "MO:", text, Model),
+    SK_FIELD(SK_ConfigDisk, "SN:", text, SerialNumber),
+    SK_FIELD(SK_ConfigDisk, "FW:", text, FirmwareRevision),
+    SK_FIELD(SK_ConfigDisk, "PT:", hex, PortType),
+    SK_FIELD(SK_ConfigDisk, "VI:", text, VendorId),
+};
+
+// The identity at the head of an array line, held until the line's slot is known.
+struct ArrayHead
+{
+    char State[sizeof SK_ConfigArray::State];
+    std::uint64_t Id;
+    char Name[sizeof SK_ConfigArray::Name];
+    char OsName[sizeof SK_ConfigArray::OsName];
+    std::int32_t Route;
+    std::int32_t Device;
+};
+
+const Field<ArrayHead> kArrayHeadFields[] = {
+    SK_FIELD(ArrayHead, "ST:", text, State),    SK_FIELD(ArrayHead, "ID:", hex, Id),
+    SK_FIELD(ArrayHead, "NM:", text, Name),     SK_FIELD(ArrayHead, "OSN:", text, OsName),
+    SK_FIELD(ArrayHead, "RT:", decimal, Route), SK_FIELD(ArrayHead, "HD:", decimal, Device),
+};
+
+constexpr const char *kCacheTagKey = "CTS:";
+// An array's type keeps eight characters.
+constexpr std::size_t kArrayTypeSize = 9;
+
+// The rest of an array line.
+const Field<SK_ConfigArray> kArrayFields[] = {
+    SK_FIELD(SK_ConfigArray, "SI:", hex, Capacity),
+    SK_FIELD(SK_ConfigArray, "1ST:", decimal, FirstCount),
+    SK_FIELD(SK_ConfigArray, "2ND:", decimal, SecondCount),
+    SK_FIELD(SK_ConfigArray, "CA:", text, Cache),
+    SK_FIELD(SK_ConfigArray, kCacheTagKey, decimal, CacheTagSize),
+    {"TY:", text<char[12]>, offsetof(SK_ConfigArray, Type), kArrayTypeSize, false},
+    SK_FIELD(SK_ConfigArray, "GE:", hex, Generation),
+    SK_FIELD(SK_ConfigArray, "TPST:", hex, TransformProtectStart),
+    SK_FIELD(SK_ConfigArray, "TPSI:", decimal, TransformProtectSize),
+    SK_FIELD(SK_ConfigArray, "TPC:", real, TransformPercentComplete),
+    SK_FIELD(SK_ConfigArray, "TP:", decimal, TaskPriority),
+    SK_FIELD(SK_ConfigArray, "TTY:", text, TransformType),
+    SK_OPTIONAL_FIELD(SK_ConfigArray, "TST:", text, TransformState),
+    SK_FIELD(SK_ConfigArray, "DS:", decimal, DistributedSpareCount),
+    SK_FIELD(SK_ConfigArray, "PRE:", decimal, PreferredLogicalElement),
+    SK_FIELD(SK_ConfigArray, "AT:", hex, Attributes),
+    SK_FIELD(SK_ConfigArray, "RC:", decimal, ReferenceCount),
+    SK_FIELD(SK_ConfigArray, "CF:", hex, CopyFromId),
+    SK_FIELD(SK_ConfigArray, "CT:", hex, CopyToId),
+    SK_FIELD(SK_ConfigArray, "DP:", text, DisplayName),
+};
+
+// A member line after its index.
+const Field<SK_ConfigMember> kMemberFields[] = {
+    SK_FIELD(SK_ConfigMember, "RT:", decimal, Route),
+    SK_FIELD(SK_ConfigMember, "HD:", decimal, Device),
+    SK_FIELD(SK_ConfigMember, "ID:", hex, DiskId),
+    SK_FIELD(SK_ConfigMember, "SO:", hex, Offset),
+    SK_FIELD(SK_ConfigMember, "SS:", hex, Size),
+    SK_FIELD(SK_ConfigMember, "DO:", hex, DataOffset),
+    SK_FIELD(SK_ConfigMember, "DS:", hex, DataSize),
+    SK_OPTIONAL_FIELD(SK_ConfigMember, "ER:", text, Error),
+};
+
+// A spare line after its index.
+const Field<SK_ConfigSpare> kSpareFields[] = {
+    SK_FIELD(SK_ConfigSpare, "RT:", decimal, Route),
+    SK_FIELD(SK_ConfigSpare, "HD:", decimal, Device),
+    SK_FIELD(SK_ConfigSpare, "ID:", hex, DiskId),
+};
+
+// An enclosure line after its index.
+const Field<SK_ConfigEnclosure> kEnclosureFields[] = {
+    SK_FIELD(SK_ConfigEnclosure, "ID:", hex, EnclosureId),
+    SK_FIELD(SK_ConfigEnclosure, "NM:", text, Name),
+    SK_FIELD(SK_ConfigEnclosure, "VID:", text, Vendor),
+    SK_FIELD(SK_ConfigEnclosure, "PID:", text, Product),
+    SK_FIELD(SK_ConfigEnclosure, "REV:", text, Revision),
+    SK_FIELD(SK_ConfigEnclosure, "SN:", text, SerialNumber),
+};
+
+#undef SK_OPTIONAL_FIELD
+#undef SK_FIELD
+#undef SK_FIELD_OF
 
 // One pass of the reader over a tokenizer that holds a report. Every handler reads
 // one line shape; a handler that returns false has met a missing token, a wrong key
@@ -95,8 +283,8 @@ public:
                     // Only a member, spare, parent or enclosure line may follow a head
                     // directly; anything else is dropped here.
                     token = next();
-                    fetch = !(is(token, "LE:") || is(token, "PA:") || is(token, "SP:")
-                              || is(token, "SEP:"));
+                    fetch = !(is(token, "LE:") || is(token, "PA:") || is(token, "SP:") ||
+                              is(token, "SEP:"));
                     if (!token)
                         return true;
                 }
@@ -143,9 +331,42 @@ private:
     }
 
     template <std::size_t N>
-    static void copy(char (&field)[N], const char *value, std::size_t limit = N)
+    static void copy(char (&field)[N], const char *value)
     {
-        SK_CopyText(field, limit < N ? limit : N, value);
+        SK_CopyText(field, N, value);
+    }
+
+    // Reads the fields of `table` in order into `record`. Returns null, or the key of
+    // the first field that is missing, has a wrong key or a value it can't take. Once
+    // the walk reaches the first optional field, every optional field is cleared, so
+    // one the line lacks reads as zero or no text.
+    template <class Record, std::size_t N>
+    const char *readFields(Record &record, const Field<Record> (&table)[N])
+    {
+        auto *bytes = reinterpret_cast<char *>(&record);
+        bool cleared = false;
+        for (std::size_t i = 0; i < N; ++i) {
+            const Field<Record> &f = table[i];
+            const char *value = nullptr;
+            if (f.optional) {
+                if (!cleared) {
+                    for (std::size_t j = i; j < N; ++j) {
+                        if (table[j].optional)
+                            std::memset(bytes + table[j].at, 0, table[j].size);
+                    }
+                    cleared = true;
+                }
+                if (!optional(f.key, value))
+                    return f.key;
+                if (!value)
+                    continue;
+            } else if (!(value = field(f.key))) {
+                return f.key;
+            }
+            if (!f.convert(bytes + f.at, f.size, value))
+                return f.key;
+        }
+        return nullptr;
     }
 
     bool readCore()
@@ -169,54 +390,8 @@ private:
             return false;
         SK_ConfigController &c = m_s.Controllers[m_controllerSlot];
         c.Number = toInt(value);
-        if (!(value = field("CN:")))
+        if (readFields(c, kControllerFields))
             return false;
-        copy(c.Name, value);
-        if (!(value = field("CSN:")))
-            return false;
-        c.SerialNumber = toHex64(value);
-        if (!(value = field("BB:")))
-            return false;
-        copy(c.BiosBuild, value);
-        if (!(value = field("MX:")))
-            return false;
-        c.MaxArraySize = toHex64(value);
-        if (!(value = field("NP:")))
-            return false;
-        c.NumberOfPorts = toInt(value);
-        if (!(value = field("VI:")))
-            return false;
-        c.PciVendorID = toHex16(value);
-        if (!(value = field("DI:")))
-            return false;
-        c.PciDeviceID = toHex16(value);
-        if (!(value = field("SVI:")))
-            return false;
-        c.PciSubVendorID = toHex16(value);
-        if (!(value = field("SDI:")))
-            return false;
-        c.PciSubDeviceID = toHex16(value);
-
-        c.ControllerId = 0;
-        c.OrigPciVendorID = c.OrigPciDeviceID = 0;
-        c.PciLocation = 0;
-        if (!optional("ID:", value))
-            return false;
-        if (value)
-            c.ControllerId = toHex64(value);
-        if (!optional("OVI:", value))
-            return false;
-        if (value)
-            c.OrigPciVendorID = toHex16(value);
-        if (!optional("ODI:", value))
-            return false;
-        if (value)
-            c.OrigPciDeviceID = toHex16(value);
-        if (!optional("LOC:", value))
-            return false;
-        if (value)
-            c.PciLocation = toHex32(value);
-
         ++m_controllerSlot;
         if (m_controllersOpen)
             m_s.ControllerCount = static_cast<std::int32_t>(m_controllerSlot);
@@ -235,22 +410,15 @@ private:
             return false;
         if (!(value = field("TY:")))
             return false;
-        if (!is(value, "Disk") && !is(value, "Core") && !is(value, "Legacy")
-            && !is(value, "Promise") && !is(value, "Unknown"))
+        if (!is(value, "Disk") && !is(value, "Core") && !is(value, "Legacy") &&
+            !is(value, "Promise") && !is(value, "Unknown"))
             return true; // not a kind this console knows: the line is passed over
 
         SK_ConfigDisk &d = m_s.Disks[index];
         std::memset(&d, 0, sizeof d);
         copy(d.Type, value);
-        if (!(value = field("ST:")))
+        if (readFields(d, kDiskFields))
             return false;
-        copy(d.State, value);
-        if (!(value = field("ID:")))
-            return false;
-        d.DiskId = toHex64(value);
-        if (!(value = field("NM:")))
-            return false;
-        copy(d.Name, value);
 
         token = next();
         if (!is(token, "CD:")) {
@@ -262,52 +430,8 @@ private:
         if (!(value = next()))
             return false;
         d.ControllerNumber = toInt(value);
-        if (!(value = field("CH:")))
+        if (readFields(d, kAttachedDiskFields))
             return false;
-        d.Channel = toInt(value);
-        if (!(value = field("RT:")))
-            return false;
-        d.Route = toInt(value);
-        if (!(value = field("HD:")))
-            return false;
-        d.Device = toInt(value);
-        if (!(value = field("FE:")))
-            return false;
-        d.Features = toHex32(value);
-        if (!(value = field("GS:")))
-            return false;
-        if (is(value, "Y"))
-            d.GlobalSpare = 1;
-        else if (is(value, "N"))
-            d.GlobalSpare = 0;
-        else
-            return false;
-        if (!(value = field("SI:")))
-            return false;
-        d.Capacity = toHex64(value);
-        if (!optional("LS:", value))
-            return false;
-        if (value)
-            d.LargestFreeSpace = toHex64(value);
-        if (!optional("TS:", value))
-            return false;
-        if (value)
-            d.TotalFreeSpace = toHex64(value);
-        if (!(value = field("MO:")))
-            return false;
-        copy(d.Model, value);
-        if (!(value = field("SN:")))
-            return false;
-        copy(d.SerialNumber, value);
-        if (!(value = field("FW:")))
-            return false;
-        copy(d.FirmwareRevision, value);
-        if (!(value = field("PT:")))
-            return false;
-        d.PortType = toHex32(value);
-        if (!(value = field("VI:")))
-            return false;
-        copy(d.VendorId, value);
         ++m_s.DiskCount;
         return true;
     }
@@ -321,28 +445,10 @@ private:
         if (index < 0 || index >= static_cast<std::int32_t>(SK_SNAPSHOT_ARRAYS))
             return false;
 
-        // The head's identity is held until the slot is known.
-        char state[12], name[40], osName[64];
-        std::uint64_t id = 0;
-        std::int32_t route = 0, device = 0;
-        if (!(value = field("ST:")))
+        ArrayHead head{};
+        if (readFields(head, kArrayHeadFields))
             return false;
-        copy(state, value);
-        if (!(value = field("ID:")))
-            return false;
-        id = toHex64(value);
-        if (!(value = field("NM:")))
-            return false;
-        copy(name, value);
-        if (!(value = field("OSN:")))
-            return false;
-        copy(osName, value);
-        if (!(value = field("RT:")))
-            return false;
-        route = toInt(value);
-        if (!(value = field("HD:")))
-            return false;
-        device = toInt(value);
+        const std::int32_t device = head.Device;
 
         // Two records in a row with one device number are the two halves of one slot;
         // a third overwrites the second half.
@@ -364,76 +470,17 @@ private:
         m_array = half;
 
         SK_ConfigArray &a = *half;
-        copy(a.State, state);
-        a.ArrayId = id;
-        copy(a.Name, name);
-        copy(a.OsName, osName);
-        a.Route = route;
+        copy(a.State, head.State);
+        a.ArrayId = head.Id;
+        copy(a.Name, head.Name);
+        copy(a.OsName, head.OsName);
+        a.Route = head.Route;
         a.Device = device;
-        if (!(value = field("SI:")))
-            return false;
-        a.Capacity = toHex64(value);
-        if (!(value = field("1ST:")))
-            return false;
-        a.FirstCount = toInt(value);
-        if (!(value = field("2ND:")))
-            return false;
-        a.SecondCount = toInt(value);
-        if (!(value = field("CA:")))
-            return false;
-        copy(a.Cache, value);
-        if (!(value = field("CTS:"))) {
-            std::printf("Failed to find CTS token\n");
+        if (const char *failed = readFields(a, kArrayFields)) {
+            if (is(failed, kCacheTagKey))
+                std::printf("Failed to find CTS token\n");
             return false;
         }
-        a.CacheTagSize = toInt(value);
-        if (!(value = field("TY:")))
-            return false;
-        copy(a.Type, value, 9);
-        if (!(value = field("GE:")))
-            return false;
-        a.Generation = toHex32(value);
-        if (!(value = field("TPST:")))
-            return false;
-        a.TransformProtectStart = toHex64(value);
-        if (!(value = field("TPSI:")))
-            return false;
-        a.TransformProtectSize = toInt(value);
-        if (!(value = field("TPC:")))
-            return false;
-        a.TransformPercentComplete = std::strtof(value, nullptr);
-        if (!(value = field("TP:")))
-            return false;
-        a.TaskPriority = toInt(value);
-        if (!(value = field("TTY:")))
-            return false;
-        copy(a.TransformType, value);
-        if (!optional("TST:", value))
-            return false;
-        if (value)
-            copy(a.TransformState, value);
-        if (!(value = field("DS:")))
-            return false;
-        a.DistributedSpareCount = toInt(value);
-        if (!(value = field("PRE:")))
-            return false;
-        a.PreferredLogicalElement = toInt(value);
-        if (!(value = field("AT:")))
-            return false;
-        a.Attributes = toHex32(value);
-        if (!(value = field("RC:")))
-            return false;
-        a.ReferenceCount = toInt(value);
-        if (!(value = field("CF:")))
-            return false;
-        a.CopyFromId = toHex64(value);
-        if (!(value = field("CT:")))
-            return false;
-        a.CopyToId = toHex64(value);
-        if (!(value = field("DP:")))
-            return false;
-        copy(a.DisplayName, value);
-        a.SpareCount = 0;
         return true;
     }
 
@@ -447,51 +494,18 @@ private:
             return false;
         SK_ConfigMember &m = m_array->Members[index];
         std::memset(&m, 0, sizeof m);
-        if (!(value = field("RT:")))
-            return false;
-        m.Route = toInt(value);
-        if (!(value = field("HD:")))
-            return false;
-        m.Device = toInt(value);
-        if (!(value = field("ID:")))
-            return false;
-        m.DiskId = toHex64(value);
-        if (!(value = field("SO:")))
-            return false;
-        m.Offset = toHex64(value);
-        if (!(value = field("SS:")))
-            return false;
-        m.Size = toHex64(value);
-        if (!(value = field("DO:")))
-            return false;
-        m.DataOffset = toHex64(value);
-        if (!(value = field("DS:")))
-            return false;
-        m.DataSize = toHex64(value);
-        if (!optional("ER:", value))
-            return false;
-        copy(m.Error, value ? value : "");
-        return true;
+        return readFields(m, kMemberFields) == nullptr;
     }
 
     bool readSpare()
     {
         if (!next() || !m_array)
             return false;
-        if (m_array->SpareCount < 0
-            || m_array->SpareCount >= static_cast<std::int32_t>(SK_SNAPSHOT_SPARES))
+        if (m_array->SpareCount < 0 ||
+            m_array->SpareCount >= static_cast<std::int32_t>(SK_SNAPSHOT_SPARES))
             return false;
-        SK_ConfigSpare &sp = m_array->Spares[m_array->SpareCount];
-        const char *value = nullptr;
-        if (!(value = field("RT:")))
+        if (readFields(m_array->Spares[m_array->SpareCount], kSpareFields))
             return false;
-        sp.Route = toInt(value);
-        if (!(value = field("HD:")))
-            return false;
-        sp.Device = toInt(value);
-        if (!(value = field("ID:")))
-            return false;
-        sp.DiskId = toHex64(value);
         ++m_array->SpareCount;
         return true;
     }
@@ -512,24 +526,8 @@ private:
             return false;
         SK_ConfigEnclosure &e = m_s.Enclosures[index];
         std::memset(&e, 0, sizeof e);
-        if (!(value = field("ID:")))
+        if (readFields(e, kEnclosureFields))
             return false;
-        e.EnclosureId = toHex64(value);
-        if (!(value = field("NM:")))
-            return false;
-        copy(e.Name, value);
-        if (!(value = field("VID:")))
-            return false;
-        copy(e.Vendor, value);
-        if (!(value = field("PID:")))
-            return false;
-        copy(e.Product, value);
-        if (!(value = field("REV:")))
-            return false;
-        copy(e.Revision, value);
-        if (!(value = field("SN:")))
-            return false;
-        copy(e.SerialNumber, value);
         ++m_s.EnclosureCount;
         return true;
     }
@@ -623,8 +621,7 @@ const char *SK_NextToken(SK_Tokenizer *tokenizer)
     return t.Token;
 }
 
-std::uint32_t SK_ParseConfigText(const char *text, std::size_t length,
-                                 SK_ConfigSnapshot *snapshot)
+std::uint32_t SK_ParseConfigText(const char *text, std::size_t length, SK_ConfigSnapshot *snapshot)
 {
     if (!snapshot)
         return 0;
@@ -643,8 +640,8 @@ std::uint32_t SK_ParseConfigText(const char *text, std::size_t length,
     return result;
 }
 
-std::uint32_t SK_ParseConfig(const SK_CoreEntry *core, SK_ConfigSnapshot *snapshot,
-                             std::uint32_t, std::uint32_t resolveOsNames)
+std::uint32_t SK_ParseConfig(const SK_CoreEntry *core, SK_ConfigSnapshot *snapshot, std::uint32_t,
+                             std::uint32_t resolveOsNames)
 {
     if (!snapshot)
         return 0;
@@ -653,8 +650,8 @@ std::uint32_t SK_ParseConfig(const SK_CoreEntry *core, SK_ConfigSnapshot *snapsh
     if (!t)
         return 0;
     std::uint32_t result = 0;
-    if (SK_ApiGetCoreConfigString(core, t->Text, SK_REPORT_TEXT_SIZE, resolveOsNames, 0, 1, 0)
-        == SK_STS_SUCCESS)
+    if (SK_ApiGetCoreConfigString(core, t->Text, SK_REPORT_TEXT_SIZE, resolveOsNames, 0, 1, 0) ==
+        SK_STS_SUCCESS)
         result = readBlock(*t, *snapshot);
     SKTL_Free(t);
     return result;
