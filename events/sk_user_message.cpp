@@ -26,14 +26,13 @@ std::uint32_t renderLine(const std::uint8_t *reply, std::uint32_t language, wcha
     std::uint32_t priority = 0;
     SK_TranslateMessage(message, language < SK_LANGUAGE_COUNT ? language : 0, text, &priority,
                         params);
-    std::swprintf(textOut, textSize,
-                  L"%05d: [%02x] (%05d) %ls - %ls =END= (%d)(%d)(%d)(%d)(%d)(%d)(%d)(%d)\n",
-                  static_cast<int>(SK_GetU32(reply, kNumber)), reply[kEntryByte],
-                  static_cast<int>(message), SK_PriorityWord(priority), text,
-                  static_cast<int>(params[0]), static_cast<int>(params[1]),
-                  static_cast<int>(params[2]), static_cast<int>(params[3]),
-                  static_cast<int>(params[4]), static_cast<int>(params[5]),
-                  static_cast<int>(params[6]), static_cast<int>(params[7]));
+    std::swprintf(
+        textOut, textSize,
+        L"%05d: [%02x] (%05d) %ls - %ls =END= (%d)(%d)(%d)(%d)(%d)(%d)(%d)(%d)\n",
+        static_cast<int>(SK_GetU32(reply, kNumber)), reply[kEntryByte], static_cast<int>(message),
+        SK_PriorityWord(priority), text, static_cast<int>(params[0]), static_cast<int>(params[1]),
+        static_cast<int>(params[2]), static_cast<int>(params[3]), static_cast<int>(params[4]),
+        static_cast<int>(params[5]), static_cast<int>(params[6]), static_cast<int>(params[7]));
     return SK_STS_VALID_USER_MESSAGE_LINE;
 }
 
@@ -73,8 +72,9 @@ bool skipTo(const wchar_t *&p, wchar_t c)
 
 std::uint32_t SK_EventCode(std::uint32_t messageId, std::uint32_t priority)
 {
-    const std::uint32_t high = priority <= 2 ? 0x41E00000u : priority == 3 ? 0x81E00000u
-                                                                             : 0xC1E00000u;
+    const std::uint32_t high = priority <= 2   ? 0x41E00000u
+                               : priority == 3 ? 0x81E00000u
+                                               : 0xC1E00000u;
     return high | (messageId & 0xFFFF);
 }
 
@@ -96,8 +96,8 @@ std::uint32_t SK_ApiGetUserMessage(const SK_CoreEntry *core, wchar_t *textOut,
         } else {
             for (;;) {
                 std::memset(reply.data(), 0, kReplySize);
-                status = channel.SK_ConfigRead(reply.data(), kReplySize, SK_READ_USER_MESSAGE,
-                                               *cursor);
+                status =
+                    channel.SK_ConfigRead(reply.data(), kReplySize, SK_READ_USER_MESSAGE, *cursor);
                 if (status != SK_STS_SUCCESS)
                     break;
                 if (SK_GetU32(reply.data(), kAvailable) != 0 || !wait)
@@ -150,14 +150,10 @@ std::uint32_t SK_ParseUserMessageLine(const wchar_t *line, std::int32_t *code,
         }
         p += 2;
     }
-    // Behind the pair stands the separator " - " of the line, then the text.
+    // Only blanks are skipped behind the pair: the text keeps the "- " separator of the
+    // line, and the event view shows it that way behind the time stamp.
     while (*p == L' ')
         ++p;
-    if (*p == L'-') {
-        ++p;
-        while (*p == L' ')
-            ++p;
-    }
 
     static const wchar_t kEnd[] = L" =END= ";
     const wchar_t *end = std::wcsstr(p, kEnd);
@@ -177,8 +173,8 @@ std::uint32_t SK_ParseUserMessageLine(const wchar_t *line, std::int32_t *code,
 }
 
 std::uint32_t SK_ReportEvent(std::uint32_t messageId, std::uint32_t p1, std::uint32_t p2,
-                             std::uint32_t p3, std::uint32_t p4, std::uint32_t p5,
-                             std::uint32_t p6, std::uint32_t p7, std::uint32_t p8)
+                             std::uint32_t p3, std::uint32_t p4, std::uint32_t p5, std::uint32_t p6,
+                             std::uint32_t p7, std::uint32_t p8)
 {
     const SK_Handle device = SKTL_DeviceOpen("\\\\.\\SKConfig0", 5, 1);
     if (device == 0) {

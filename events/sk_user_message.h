@@ -24,7 +24,8 @@ std::uint32_t SK_ApiGetUserMessage(const SK_CoreEntry *core, wchar_t *textOut,
 
 // Takes a line of SK_ApiGetUserMessage apart: the message number into `code`, the
 // priority word into `priority` ("VL" 0, "IN" 1, "WA" 2, "CR" 3, "LG" 4, others 0),
-// the text into `text` (which holds `textLimit` + 2 wide characters) and the eight raw
+// the text from the first non-blank behind the word, so beginning with the line's
+// "- ", into `text` (which holds `textLimit` + 2 wide characters) and the eight raw
 // parameters. Returns 53, or 7 at the first part that doesn't read. The entry byte
 // is read as decimal digits, so a byte printed with a letter a to f refuses the line.
 std::uint32_t SK_ParseUserMessageLine(const wchar_t *line, std::int32_t *code,
@@ -34,8 +35,8 @@ std::uint32_t SK_ParseUserMessageLine(const wchar_t *line, std::int32_t *code,
 // Writes one event into the driver's log through the control device. Returns 1, or 3
 // with a line on standard output saying why not.
 std::uint32_t SK_ReportEvent(std::uint32_t messageId, std::uint32_t p1, std::uint32_t p2,
-                             std::uint32_t p3, std::uint32_t p4, std::uint32_t p5,
-                             std::uint32_t p6, std::uint32_t p7, std::uint32_t p8);
+                             std::uint32_t p3, std::uint32_t p4, std::uint32_t p5, std::uint32_t p6,
+                             std::uint32_t p7, std::uint32_t p8);
 
 // The event code the log-writing request carries for a message of `priority`.
 std::uint32_t SK_EventCode(std::uint32_t messageId, std::uint32_t priority);

@@ -129,19 +129,27 @@ INSTANTIATE_TEST_SUITE_P(
     Lines, LineParsing,
     ::testing::Values(
         ParseCase{"a full line",
-                  L"00017: [01] (01018) WA - A rebuild task has completed on Array 2. =END= "
+                  L"00017: [01] (01014) WA - Array 2 has been deleted. =END= "
                   L"(2)(0)(0)(0)(0)(0)(0)(0)\n",
-                  53, 1018, 2, L"A rebuild task has completed on Array 2."},
+                  53, 1014, 2, L"- Array 2 has been deleted."},
         ParseCase{"an unknown priority word counts as 0",
-                  L"3: [0] (1001) ZZ - Hello =END= (0)(0)(0)(0)(0)(0)(0)(0)", 53, 1001, 0, L"Hello"},
+                  L"3: [0] (1001) ZZ - Hello =END= (0)(0)(0)(0)(0)(0)(0)(0)", 53, 1001, 0,
+                  L"- Hello"},
+        ParseCase{"blanks behind the word, no separator",
+                  L"3: [0] (1001) CR   Hello =END= (0)(0)(0)(0)(0)(0)(0)(0)", 53, 1001, 3,
+                  L"Hello"},
+        ParseCase{"a text of the limit plus one",
+                  L"1: [0] (1001) LG - " + std::wstring(39, L'x') +
+                      L" =END= (0)(0)(0)(0)(0)(0)(0)(0)",
+                  53, 1001, 4, L"- " + std::wstring(39, L'x')},
         ParseCase{"an entry byte printed with a letter",
                   L"00003: [0b] (01001) VL - x =END= (0)(0)(0)(0)(0)(0)(0)(0)", 7, 0, 0, L""},
         ParseCase{"a sequence number with a letter",
                   L"0a003: [00] (01001) VL - x =END= (0)(0)(0)(0)(0)(0)(0)(0)", 7, 0, 0, L""},
-        ParseCase{"no end marker", L"00003: [00] (01001) VL - x (0)(0)(0)(0)(0)(0)(0)(0)", 7, 0,
-                  0, L""},
+        ParseCase{"no end marker", L"00003: [00] (01001) VL - x (0)(0)(0)(0)(0)(0)(0)(0)", 7, 0, 0,
+                  L""},
         ParseCase{"a text longer than the limit allows",
-                  L"1: [0] (1001) VL - " + std::wstring(42, L'x') +
+                  L"1: [0] (1001) VL - " + std::wstring(40, L'x') +
                       L" =END= (0)(0)(0)(0)(0)(0)(0)(0)",
                   7, 0, 0, L""},
         ParseCase{"only seven parameters", L"1: [0] (1001) VL - x =END= (0)(0)(0)(0)(0)(0)(0)", 7,
@@ -162,7 +170,7 @@ TEST(UserMessages, readAndParseRoundTripKeepsNegativeParameters)
     ASSERT_EQ(SK_ParseUserMessageLine(read.line.c_str(), &code, &priority, text, 255, params), 53u);
     EXPECT_EQ(code, 1014);
     EXPECT_EQ(priority, 1u); // "IN"
-    EXPECT_EQ(std::wstring(text), L"Array -7 has been deleted.");
+    EXPECT_EQ(std::wstring(text), L"- Array -7 has been deleted.");
     EXPECT_EQ(params[0], -7);
     EXPECT_EQ(params[7], -1);
 }
