@@ -11,5 +11,6 @@
 #include "emulator/sk_emu_model.h"
 #include "emulator/sk_emu_rules.h"
 #include "emulator/sk_emu_scenario.h"
+#include "emulator/sk_emu_statefile.h"
 #include "emulator/sk_emu_stats.h"
 #include "emulator/sk_emu_system.h"

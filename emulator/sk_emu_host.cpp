@@ -67,11 +67,15 @@ Host::~Host() = default;
 std::shared_ptr<Host> Host::openStateFile(const std::string &path, std::string &error,
                                           std::shared_ptr<SK_EmuClock> clock)
 {
-    // Under the lock, so two programs starting together create the file only once.
-    StateFileLock lock(path);
+    // The file is only ever replaced whole, so reading it needs no lock; creating it
+    // does, so that two programs starting together create it once. A read-only look
+    // (skemu show, check) thus leaves no lock file beside someone's scenario.
     Model model;
     std::string text;
     std::error_code ec;
+    std::unique_ptr<StateFileLock> lock;
+    if (!std::filesystem::exists(path, ec))
+        lock = std::make_unique<StateFileLock>(path);
     if (std::filesystem::exists(path, ec)) {
         std::string why;
         if (!readStateText(path, text, error))

@@ -156,8 +156,10 @@ private:
     SK_HostIo acceptWrite(Channel &channel, const std::uint8_t *data, std::uint32_t size,
                           bool viaRoute);
     std::vector<std::uint8_t> replyFor(Channel &channel, std::uint32_t &status);
+    class StateTurn;
     void reloadIfChangedOnDisk();
     void saveQuietly();
+    bool writeState(std::string &error, bool evenIfUnchanged);
     void recordHistory();
     bool consumeTransferFault(SK_HostIo &io);
     bool consumeRefusal(std::uint32_t &status);
@@ -178,8 +180,12 @@ private:
     std::uint64_t m_nextSession = 1;
     std::uint32_t m_nextChannel = 1;
 
+    // Another process changes the file too: every request re-reads it under the file's
+    // lock when its bytes differ from the ones last read or written here.
     std::string m_statePath;
-    std::int64_t m_stateStamp = 0; // modification time of the file as last read or written
+    std::string m_stateText;     // the file's bytes as last read or written
+    std::string m_savedScenario; // the model the file holds, as writeScenario renders it
+    int m_turnDepth = 0;         // nested turns hold the one file lock of the outermost
 
     std::unique_ptr<SK_SystemView> m_system;
 };

@@ -1,4 +1,5 @@
 #include "emulator/sk_emu_scenario.h"
+#include "emulator/sk_emu_statefile.h"
 
 #include <nlohmann/json.hpp>
 
@@ -30,25 +31,26 @@ struct Word
     std::uint32_t value;
 };
 
-const Word kDiskTypes[] = {{"disk", code::DiskTypeDisk},       {"core", code::DiskTypeCore},
-                           {"unknown", code::DiskTypeUnknown}, {"legacy", code::DiskTypeLegacy},
+const Word kDiskTypes[] = {{"disk", code::DiskTypeDisk},
+                           {"core", code::DiskTypeCore},
+                           {"unknown", code::DiskTypeUnknown},
+                           {"legacy", code::DiskTypeLegacy},
                            {"foreign", code::DiskTypeForeign}};
 const Word kDiskStates[] = {{"online", code::DiskOnline},
                             {"offline", code::DiskOffline},
                             {"smart-error", code::DiskSmartError},
                             {"locked", code::DiskLocked}};
-const Word kArrayStates[] = {{"normal", code::ArrayNormal},   {"critical", code::ArrayCritical},
-                             {"offline", code::ArrayOffline}, {"outdated", code::ArrayOutdated},
+const Word kArrayStates[] = {{"normal", code::ArrayNormal},
+                             {"critical", code::ArrayCritical},
+                             {"offline", code::ArrayOffline},
+                             {"outdated", code::ArrayOutdated},
                              {"locked", code::ArrayLocked}};
-const Word kTaskTypes[] = {{"none", code::TaskNone},
-                           {"transform", code::TaskTransform},
-                           {"create", code::TaskCreate},
-                           {"check", code::TaskCheck},
-                           {"copy", code::TaskCopy},
-                           {"restore", code::TaskRestore},
-                           {"zero", code::TaskZero},
-                           {"secure-erase", code::TaskSecureErase},
-                           {"tier-move", code::TaskTierMove}};
+const Word kTaskTypes[] = {
+    {"none", code::TaskNone},         {"transform", code::TaskTransform},
+    {"create", code::TaskCreate},     {"check", code::TaskCheck},
+    {"copy", code::TaskCopy},         {"restore", code::TaskRestore},
+    {"zero", code::TaskZero},         {"secure-erase", code::TaskSecureErase},
+    {"tier-move", code::TaskTierMove}};
 const Word kTaskStates[] = {{"none", code::TaskStateNone},
                             {"started", code::TaskStarted},
                             {"paused", code::TaskPaused},
@@ -58,15 +60,13 @@ const Word kCaches[] = {{"NC", 0},
                         {"R", code::CacheRead},
                         {"W", code::CacheWrite},
                         {"RW", code::CacheRead | code::CacheWrite}};
-const Word kPortBits[] = {{"1.5g", code::Port1_5G},       {"3g", code::Port3G},
-                          {"6g", code::Port6G},           {"gen4", code::PortNvmeGen4},
-                          {"gen5", code::PortNvmeGen5},   {"x2", code::PortNvmeX2},
-                          {"x4", code::PortNvmeX4},       {"x8", code::PortNvmeX8},
-                          {"sata", code::PortSata},       {"ncq", code::PortNcq},
-                          {"ssd", code::PortSsd},         {"external", code::PortExternal},
-                          {"4kn", code::Port4Kn},         {"sas", code::PortSas},
-                          {"removable", code::PortRemovable}, {"gen2", code::PortNvmeGen2},
-                          {"nvme", code::PortNvme}};
+const Word kPortBits[] = {
+    {"1.5g", code::Port1_5G},     {"3g", code::Port3G},         {"6g", code::Port6G},
+    {"gen4", code::PortNvmeGen4}, {"gen5", code::PortNvmeGen5}, {"x2", code::PortNvmeX2},
+    {"x4", code::PortNvmeX4},     {"x8", code::PortNvmeX8},     {"sata", code::PortSata},
+    {"ncq", code::PortNcq},       {"ssd", code::PortSsd},       {"external", code::PortExternal},
+    {"4kn", code::Port4Kn},       {"sas", code::PortSas},       {"removable", code::PortRemovable},
+    {"gen2", code::PortNvmeGen2}, {"nvme", code::PortNvme}};
 
 template <std::size_t N>
 const char *wordOf(const Word (&words)[N], std::uint32_t value)
@@ -111,8 +111,7 @@ public:
             m_error = path + ": " + message;
     }
 
-    const Json *member(const Json &object, const std::string &path, const char *key,
-                       bool required)
+    const Json *member(const Json &object, const std::string &path, const char *key, bool required)
     {
         if (!object.is_object()) {
             fail(path, "expected an object");
@@ -144,7 +143,8 @@ public:
         } else if (v->is_string()) {
             const std::string text = v->get<std::string>();
             // Decimal, or hexadecimal behind "0x"; never octal.
-            const bool isHex = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X');
+            const bool isHex =
+                text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X');
             char *end = nullptr;
             errno = 0;
             value = std::strtoull(text.c_str() + (isHex ? 2 : 0), &end, isHex ? 16 : 10);
@@ -157,8 +157,8 @@ public:
             return fallback;
         }
         if (value > max) {
-            fail(where, std::to_string(value) + " is out of range (at most " +
-                            std::to_string(max) + ")");
+            fail(where,
+                 std::to_string(value) + " is out of range (at most " + std::to_string(max) + ")");
             return fallback;
         }
         return value;
@@ -173,7 +173,7 @@ public:
     // The drivers report some texts as one word; a blank would split them in the
     // configuration report the console reads.
     std::string oneWord(const Json &object, const std::string &path, const char *key,
-                     std::size_t maxLength)
+                        std::size_t maxLength)
     {
         std::string value = text(object, path, key, maxLength);
         if (value.find_first_of(" \t") != std::string::npos)
@@ -358,8 +358,7 @@ Disk readDisk(Reader &r, const Json &d, const std::string &path)
 }
 
 // Level words and the type code and counts they stand for, given the member count.
-bool levelLayout(const std::string &level, std::size_t members, std::uint32_t rows,
-                 Layout &layout)
+bool levelLayout(const std::string &level, std::size_t members, std::uint32_t rows, Layout &layout)
 {
     const auto n = static_cast<std::uint32_t>(members);
     layout.firstCount = 1;
@@ -375,8 +374,8 @@ bool levelLayout(const std::string &level, std::size_t members, std::uint32_t ro
         layout.firstCount = rows ? rows : n / 2;
         layout.secondCount = layout.firstCount ? n / layout.firstCount : 0;
     } else if (level == "RAID5" || level == "RAID50" || level == "RAID6" || level == "RAID60") {
-        layout.type = (level == "RAID5" || level == "RAID50") ? code::TypeParity
-                                                                : code::TypeDoubleParity;
+        layout.type =
+            (level == "RAID5" || level == "RAID50") ? code::TypeParity : code::TypeDoubleParity;
         layout.firstCount = rows ? rows : 1;
         layout.secondCount = n / layout.firstCount;
     } else if (level == "RAIDTIER") {
@@ -440,22 +439,21 @@ Layout readLayout(Reader &r, const Json &a, const std::string &path)
         if (!r.failed() && !levelLayout(level, layout.members.size(), rows, layout))
             r.fail(path + ".level", "\"" + level + "\" is not a known level");
     }
-    if (!r.failed() && static_cast<std::size_t>(layout.firstCount) * layout.secondCount
-                           != layout.members.size())
-        r.fail(path + ".members",
-               std::to_string(layout.members.size()) + " members do not fill " +
-                   std::to_string(layout.firstCount) + " x " +
-                   std::to_string(layout.secondCount));
+    if (!r.failed() &&
+        static_cast<std::size_t>(layout.firstCount) * layout.secondCount != layout.members.size())
+        r.fail(path + ".members", std::to_string(layout.members.size()) + " members do not fill " +
+                                      std::to_string(layout.firstCount) + " x " +
+                                      std::to_string(layout.secondCount));
 
     std::uint64_t smallest = ~0ull, sum = 0;
     for (const Member &m : layout.members) {
         smallest = std::min(smallest, m.size);
         sum += m.size;
     }
-    const std::uint64_t computed = layout.members.empty()
-                                       ? 0
-                                       : layoutCapacity(layout.type, layout.firstCount,
-                                                        layout.secondCount, smallest, sum);
+    const std::uint64_t computed =
+        layout.members.empty()
+            ? 0
+            : layoutCapacity(layout.type, layout.firstCount, layout.secondCount, smallest, sum);
     layout.capacity = r.number(a, path, "capacitySectors", computed, ~0ull);
     return layout;
 }
@@ -656,8 +654,8 @@ void checkConsistency(Reader &r, const Model &m)
                 r.fail(mp, "the extent runs past the end of disk " + hex(mem.disk));
             for (const Extent &e : extents[mem.disk]) {
                 if (mem.offset < e.offset + e.size && e.offset < mem.offset + mem.size)
-                    r.fail(mp, "the extent overlaps another array's extent on disk " +
-                                   hex(mem.disk));
+                    r.fail(mp,
+                           "the extent overlaps another array's extent on disk " + hex(mem.disk));
             }
             extents[mem.disk].push_back({mem.offset, mem.size});
         }
@@ -742,7 +740,8 @@ Json diskJson(const Disk &d)
     j["readAhead"] = (d.features & code::FeatureReadAhead) != 0;
     j["smartPolling"] = (d.features & code::FeatureSmartPolling) != 0;
     const std::uint32_t otherFeatures =
-        d.features & ~(code::FeatureWriteCache | code::FeatureReadAhead | code::FeatureSmartPolling);
+        d.features &
+        ~(code::FeatureWriteCache | code::FeatureReadAhead | code::FeatureSmartPolling);
     if (otherFeatures)
         j["featureBits"] = otherFeatures;
     j["model"] = d.model;
@@ -792,7 +791,8 @@ Json arrayJson(const Array &a)
     j["id"] = hex(a.id);
     j["route"] = a.route;
     j["name"] = a.name;
-    j["state"] = wordOf(kArrayStates, a.state) ? Json(wordOf(kArrayStates, a.state)) : Json(a.state);
+    j["state"] =
+        wordOf(kArrayStates, a.state) ? Json(wordOf(kArrayStates, a.state)) : Json(a.state);
     const Json layout = layoutJson(a.layout);
     for (auto &[key, value] : layout.items())
         j[key] = value;
@@ -806,16 +806,16 @@ Json arrayJson(const Array &a)
     j["spares"] = spares;
     j["parents"] = parents;
     Json task = Json::object();
-    task["type"] = wordOf(kTaskTypes, a.task.type) ? Json(wordOf(kTaskTypes, a.task.type))
-                                                   : Json(a.task.type);
+    task["type"] =
+        wordOf(kTaskTypes, a.task.type) ? Json(wordOf(kTaskTypes, a.task.type)) : Json(a.task.type);
     task["state"] = wordOf(kTaskStates, a.task.state) ? Json(wordOf(kTaskStates, a.task.state))
                                                       : Json(a.task.state);
     task["progress"] = a.task.progress;
     j["task"] = task;
     j["priority"] = a.priority;
     j["attributes"] = a.attributes;
-    j["cache"] = wordOf(kCaches, a.cachePolicy) ? Json(wordOf(kCaches, a.cachePolicy))
-                                                : Json(a.cachePolicy);
+    j["cache"] =
+        wordOf(kCaches, a.cachePolicy) ? Json(wordOf(kCaches, a.cachePolicy)) : Json(a.cachePolicy);
     j["cacheTagSize"] = a.cacheTagSize;
     j["referenceCount"] = a.referenceCount;
     j["generation"] = a.generation;
@@ -936,27 +936,24 @@ std::string writeScenario(const Model &model)
                         {"driverBuild", h.driverBuild},
                         {"drivers", drivers},
                         {"disabledLevels", h.disabledLevels},
-                        {"parameters",
-                         Json{{"arrayCount", h.parameterArrayCount},
-                              {"fileCount", h.parameterFileCount}}}};
+                        {"parameters", Json{{"arrayCount", h.parameterArrayCount},
+                                            {"fileCount", h.parameterFileCount}}}};
 
     Json controllers = Json::array();
     for (const Controller &c : model.controllers) {
-        controllers.push_back(Json{
-            {"id", hex(c.id)},
-            {"name", c.name},
-            {"biosBuild", c.biosBuild},
-            {"maxArraySectors", c.maxArraySectors},
-            {"serial", hex(c.serial)},
-            {"ports", c.ports},
-            {"pci",
-             Json{{"vendor", hex16(c.pciVendor)},
-                  {"device", hex16(c.pciDevice)},
-                  {"subVendor", hex16(c.pciSubVendor)},
-                  {"subDevice", hex16(c.pciSubDevice)},
-                  {"originalVendor", hex16(c.origPciVendor)},
-                  {"originalDevice", hex16(c.origPciDevice)},
-                  {"location", hex16(c.pciLocation)}}}});
+        controllers.push_back(Json{{"id", hex(c.id)},
+                                   {"name", c.name},
+                                   {"biosBuild", c.biosBuild},
+                                   {"maxArraySectors", c.maxArraySectors},
+                                   {"serial", hex(c.serial)},
+                                   {"ports", c.ports},
+                                   {"pci", Json{{"vendor", hex16(c.pciVendor)},
+                                                {"device", hex16(c.pciDevice)},
+                                                {"subVendor", hex16(c.pciSubVendor)},
+                                                {"subDevice", hex16(c.pciSubDevice)},
+                                                {"originalVendor", hex16(c.origPciVendor)},
+                                                {"originalDevice", hex16(c.origPciDevice)},
+                                                {"location", hex16(c.pciLocation)}}}});
     }
     root["controllers"] = controllers;
 
@@ -1023,23 +1020,9 @@ std::string writeScenario(const Model &model)
 
 bool readStateFile(const std::string &path, Model &model, std::string &error)
 {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        error = path + ": cannot be opened for reading";
+    std::string text, why;
+    if (!readStateText(path, text, error))
         return false;
-    }
-    // A state file is a few hundred kilobytes at most; refuse anything absurd.
-    constexpr std::streamoff kMaxSize = 64 << 20;
-    in.seekg(0, std::ios::end);
-    const std::streamoff size = in.tellg();
-    in.seekg(0);
-    if (size < 0 || size > kMaxSize) {
-        error = path + ": is too large to be a state file";
-        return false;
-    }
-    std::string text(static_cast<std::size_t>(size), '\0');
-    in.read(text.data(), size);
-    std::string why;
     if (!parseScenario(text, model, why)) {
         error = path + ": " + why;
         return false;
@@ -1049,34 +1032,7 @@ bool readStateFile(const std::string &path, Model &model, std::string &error)
 
 bool writeStateFileAtomically(const std::string &path, const Model &model, std::string &error)
 {
-    namespace fs = std::filesystem;
-    std::error_code ec;
-    const fs::path target(path);
-    if (target.has_parent_path())
-        fs::create_directories(target.parent_path(), ec);
-    const fs::path temporary = target.string() + ".tmp";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        if (!out) {
-            error = temporary.string() + ": cannot be written";
-            return false;
-        }
-        out << writeScenario(model);
-        out.flush();
-        if (!out) {
-            error = temporary.string() + ": writing failed";
-            out.close();
-            fs::remove(temporary, ec);
-            return false;
-        }
-    }
-    fs::rename(temporary, target, ec);
-    if (ec) {
-        error = path + ": cannot be replaced (" + ec.message() + ")";
-        fs::remove(temporary, ec);
-        return false;
-    }
-    return true;
+    return writeStateTextAtomically(path, writeScenario(model), error);
 }
 
 std::string defaultStateFilePath()

@@ -269,7 +269,12 @@ int run(const std::string &state, const std::vector<std::string> &args)
         std::fprintf(stderr, "skemu: %s\n", error.c_str());
         return 1;
     }
-    const Model model = host->model();
+    // Looking needs no turn at the file's lock: the file is only ever replaced whole.
+    Model model;
+    if (!readStateFile(state, model, error)) {
+        std::fprintf(stderr, "skemu: %s\n", error.c_str());
+        return 1;
+    }
 
     if (command == "check") {
         std::printf("%s: %zu controllers, %zu disks, %zu arrays, %zu volumes, %zu events\n",
@@ -293,8 +298,8 @@ int run(const std::string &state, const std::vector<std::string> &args)
     if (command == "disks") {
         for (const Disk &d : model.disks)
             std::printf("0x%016llx  port %u  %-6s %-24s %s\n",
-                        static_cast<unsigned long long>(d.id), d.port,
-                        d.attached ? "" : "pulled", d.model.c_str(), d.serial.c_str());
+                        static_cast<unsigned long long>(d.id), d.port, d.attached ? "" : "pulled",
+                        d.model.c_str(), d.serial.c_str());
         return 0;
     }
     if (command == "arrays") {
@@ -312,8 +317,8 @@ int run(const std::string &state, const std::vector<std::string> &args)
         ok = host->pullDisk(a);
     } else if (command == "smart-error" && parseNumber(arg(1), a) && arg(2)) {
         ok = host->setSmartError(a, args[2] == "on");
-    } else if (command == "insert-disk" && parseNumber(arg(1), a) && parseNumber(arg(2), b)
-               && arg(4)) {
+    } else if (command == "insert-disk" && parseNumber(arg(1), a) && parseNumber(arg(2), b) &&
+               arg(4)) {
         Disk d;
         d.port = static_cast<std::uint32_t>(a);
         d.capacity = b;
@@ -321,9 +326,10 @@ int run(const std::string &state, const std::vector<std::string> &args)
         d.serial = args[4];
         d.id = 0x5000000000000000ull | (std::hash<std::string>{}(d.serial) & 0xFFFFFFFFFFFFull);
         const std::string kind = arg(5) ? args[5] : "";
-        d.portType = kind == "nvme" ? (code::PortNvme | code::PortNvmeGen4 | code::PortNvmeX4)
-                                    : (code::PortSata | code::Port6G
-                                       | (kind == "ssd" ? code::PortSsd : code::PortNcq));
+        d.portType =
+            kind == "nvme"
+                ? (code::PortNvme | code::PortNvmeGen4 | code::PortNvmeX4)
+                : (code::PortSata | code::Port6G | (kind == "ssd" ? code::PortSsd : code::PortNcq));
         d.vendor = kind == "nvme" ? "NVMe" : "ATA";
         for (const Disk &other : model.disks) {
             if (other.controller == 0 && other.port == d.port && other.attached) {

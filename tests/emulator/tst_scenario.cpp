@@ -68,11 +68,10 @@ TEST(Scenario, defaultScenarioLooksLikeTheWorkstationItDescribes)
 {
     const Model m = defaultScenario();
     EXPECT_EQ(m.controllers.size(), 1u);
-    const auto nvme = std::count_if(m.disks.begin(), m.disks.end(),
-                                    [](const Disk &d) { return d.isNvme(); });
-    const auto ssd = std::count_if(m.disks.begin(), m.disks.end(), [](const Disk &d) {
-        return (d.portType & code::PortSsd) != 0;
-    });
+    const auto nvme =
+        std::count_if(m.disks.begin(), m.disks.end(), [](const Disk &d) { return d.isNvme(); });
+    const auto ssd = std::count_if(m.disks.begin(), m.disks.end(),
+                                   [](const Disk &d) { return (d.portType & code::PortSsd) != 0; });
     EXPECT_EQ(nvme, 1);
     EXPECT_EQ(ssd, 2);
     EXPECT_EQ(m.arrays[0].layout.type, code::TypeMirrorStripe);
@@ -126,8 +125,7 @@ TEST_P(MalformedScenario, isRefusedWithTheFieldAndTheReason)
     Model m;
     std::string error;
     EXPECT_FALSE(parseScenario(base.dump(), m, error)) << GetParam().what;
-    EXPECT_NE(error.find(GetParam().reason), std::string::npos)
-        << GetParam().what << ": " << error;
+    EXPECT_NE(error.find(GetParam().reason), std::string::npos) << GetParam().what << ": " << error;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -147,8 +145,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadScenario{"volume on a missing array",
                     R"({"volumes": [{"letter": "E:", "arrays": ["0x99"]}]})", "no array 0x"},
         BadScenario{"bad drive letter", R"({"volumes": [{"letter": "1"}]})", "not a drive letter"},
-        BadScenario{"computer name is not text",
-                    R"({"host": {"computerName": 5}})", "host.computerName: expected text"}));
+        BadScenario{"computer name is not text", R"({"host": {"computerName": 5}})",
+                    "host.computerName: expected text"}));
 
 TEST(Scenario, structuralProblemsNameTheOffendingRecord)
 {
@@ -223,6 +221,74 @@ TEST(StateFile, changesByAnotherProcessAreTakenOnTheNextRequest)
     const Model seen = console->model();
     EXPECT_EQ(seen.findDisk(disk)->state, code::DiskOffline);
     EXPECT_EQ(seen.generation, 28u);
+}
+
+// The console and skemu take turns at one file; whatever either did must survive the
+// other's next write. Fault counters rewrite the file at the same size, the case a
+// time stamp alone misses.
+TEST(StateFile, interleavedChangesOfTwoHostsAreAllKept)
+{
+    TempFolder folder;
+    const std::string path = folder.file("shared.json").string();
+    std::string error;
+    auto a = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
+    auto b = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
+    ASSERT_TRUE(a && b) << error;
+    const std::uint32_t first = a->model().nextEventNumber;
+    constexpr std::uint32_t kTurns = 200;
+    for (std::uint32_t i = 0; i < kTurns; ++i) {
+        Host &h = i % 2 ? *b : *a;
+        h.injectEvent(1037, {i});
+        if (i % 2)
+            h.staleNextWrites(i % 7);
+        else
+            h.failNextTransfers(i % 7);
+    }
+    Model m;
+    ASSERT_TRUE(readStateFile(path, m, error)) << error;
+    ASSERT_EQ(m.nextEventNumber, first + kTurns);
+    for (std::uint32_t i = 0; i < kTurns; ++i)
+        EXPECT_EQ(m.events[m.events.size() - kTurns + i].params[0], i);
+    EXPECT_EQ(m.faults.staleWrites, (kTurns - 1) % 7);
+    EXPECT_EQ(m.faults.failedTransfers, (kTurns - 2) % 7);
+}
+
+TEST(StateFile, everyRequestSeesTheOtherProcessFirst)
+{
+    TempFolder folder;
+    const std::string path = folder.file("shared.json").string();
+    std::string error;
+    auto console = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
+    auto tool = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
+    ASSERT_TRUE(console && tool) << error;
+    const std::uint64_t session = console->open("\\\\.\\SKConfig0", 0, 0);
+    ASSERT_NE(session, 0u);
+    std::uint8_t block[512] = {};
+    ASSERT_EQ(console->read(session, 0, block, sizeof block).systemError, 0u);
+
+    tool->failNextTransfers(1);
+    EXPECT_NE(console->read(session, 0, block, sizeof block).systemError, 0u);
+    EXPECT_EQ(console->read(session, 0, block, sizeof block).systemError, 0u);
+    // The console's use of the fault reached the file, and so the tool.
+    EXPECT_EQ(tool->model().faults.failedTransfers, 0u);
+}
+
+TEST(StateFile, aChangeThatChangesNothingLeavesTheFileAsItIs)
+{
+    TempFolder folder;
+    const fs::path path = folder.file("hand-written.json");
+    {
+        std::ofstream out(path, std::ios::binary);
+        out << nlohmann::json::parse(writeScenario(defaultScenario())).dump(); // not our layout
+    }
+    const std::string before = readAll(path);
+    std::string error;
+    auto host = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
+    ASSERT_TRUE(host) << error;
+    EXPECT_FALSE(host->failDisk(0x1234));
+    EXPECT_FALSE(host->setSmartError(0x1234, true));
+    host->model();
+    EXPECT_EQ(readAll(path), before);
 }
 
 } // namespace

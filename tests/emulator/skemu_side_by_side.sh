@@ -1,0 +1,30 @@
+#!/bin/sh
+# Two skemu processes append events to one state file side by side; with the file's
+# lock every append survives, however the two interleave.
+#   skemu_side_by_side.sh "SKEMU COMMAND" STATE_FILE APPENDS_EACH
+set -u
+skemu=$1
+state=$2
+count=$3
+rm -f "$state" "$state.lock" "$state.tmp"
+$skemu --state "$state" init >/dev/null || exit 1
+first=$($skemu --state "$state" events | sed -n 's/^next event number \([0-9]*\),.*/\1/p')
+
+appends() {
+    i=0
+    while [ "$i" -lt "$count" ]; do
+        $skemu --state "$state" event 1037 "$1" "$i" >/dev/null || exit 1
+        i=$((i + 1))
+    done
+}
+appends 1 &
+one=$!
+appends 2 &
+two=$!
+wait "$one" || exit 1
+wait "$two" || exit 1
+
+last=$($skemu --state "$state" events | sed -n 's/^next event number \([0-9]*\),.*/\1/p')
+kept=$($skemu --state "$state" events | grep -c -E '\(01037\) [12] ')
+echo "events before $first, after $last, $kept appended entries kept"
+[ "$last" -eq $((first + 2 * count)) ] && [ "$kept" -eq $((2 * count)) ]
