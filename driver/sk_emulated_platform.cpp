@@ -8,12 +8,15 @@ constexpr std::uint32_t kValidOpenModeMax = 8;
 constexpr std::uint32_t kFlagNoBuffering = 3;
 constexpr std::uintptr_t kSectorSize = 512;
 
+// The error of this thread's last failed call, kept per thread as the system keeps it.
+thread_local std::uint32_t t_lastError = SK_SYSERR_NONE;
+
 // An unbuffered handle moves whole sectors at sector offsets from aligned memory;
 // the real system refuses anything else, and so does the emulation.
 bool violatesUnbufferedRules(const void *buffer, std::uint64_t position, std::uint32_t size)
 {
-    return reinterpret_cast<std::uintptr_t>(buffer) % kSectorSize != 0
-           || position % kSectorSize != 0 || size % kSectorSize != 0;
+    return reinterpret_cast<std::uintptr_t>(buffer) % kSectorSize != 0 ||
+           position % kSectorSize != 0 || size % kSectorSize != 0;
 }
 
 } // namespace
@@ -48,12 +51,16 @@ SK_EmulatedPlatform::~SK_EmulatedPlatform()
 SK_Handle SK_EmulatedPlatform::openDevice(const char *osName, std::uint32_t openMode,
                                           std::uint32_t flagMode)
 {
-    if (!osName || openMode == 0 || openMode > kValidOpenModeMax || flagMode == 0
-        || flagMode > kFlagNoBuffering)
+    if (!osName || openMode == 0 || openMode > kValidOpenModeMax || flagMode == 0 ||
+        flagMode > kFlagNoBuffering) {
+        t_lastError = SK_SYSERR_INVALID_PARAMETER;
         return 0;
+    }
     const std::uint64_t session = m_endpoint->open(osName, openMode, flagMode);
-    if (session == 0)
+    if (session == 0) {
+        t_lastError = SK_SYSERR_FILE_NOT_FOUND;
         return 0;
+    }
     std::lock_guard<std::mutex> guard(m_mutex);
     const SK_Handle handle = m_nextHandle;
     m_nextHandle += 4;
@@ -91,8 +98,8 @@ std::uint32_t SK_EmulatedPlatform::transfer(bool isRead, SK_Handle handle, void 
     if (device.session == 0) {
         io.queued = false;
         io.systemError = 6; // ERROR_INVALID_HANDLE
-    } else if (device.flagMode == kFlagNoBuffering
-               && violatesUnbufferedRules(buffer, position, size)) {
+    } else if (device.flagMode == kFlagNoBuffering &&
+               violatesUnbufferedRules(buffer, position, size)) {
         io.queued = false;
         io.systemError = SK_SYSERR_INVALID_PARAMETER;
     } else if (isRead) {
@@ -103,7 +110,8 @@ std::uint32_t SK_EmulatedPlatform::transfer(bool isRead, SK_Handle handle, void 
     }
 
     if (!io.queued) {
-        std::printf(isRead ? "Read from file failed, error=%d\n" : "Write to file failed, error=%d\n",
+        std::printf(isRead ? "Read from file failed, error=%d\n"
+                           : "Write to file failed, error=%d\n",
                     static_cast<int>(io.systemError));
         return 3;
     }
@@ -117,9 +125,9 @@ std::uint32_t SK_EmulatedPlatform::transfer(bool isRead, SK_Handle handle, void 
     return result;
 }
 
-bool SK_EmulatedPlatform::deviceControl(SK_Handle handle, std::uint32_t controlCode,
-                                        const void *in, std::uint32_t inSize, void *out,
-                                        std::uint32_t outSize, std::uint32_t &error)
+bool SK_EmulatedPlatform::deviceControl(SK_Handle handle, std::uint32_t controlCode, const void *in,
+                                        std::uint32_t inSize, void *out, std::uint32_t outSize,
+                                        std::uint32_t &error)
 {
     std::uint64_t session = 0;
     {
@@ -128,13 +136,18 @@ bool SK_EmulatedPlatform::deviceControl(SK_Handle handle, std::uint32_t controlC
         if (it != m_handles.end())
             session = it->second.session;
     }
-    if (session == 0) {
-        error = 6; // ERROR_INVALID_HANDLE
-        return false;
-    }
-    error = m_endpoint->control(session, controlCode, static_cast<const std::uint8_t *>(in), inSize,
-                                static_cast<std::uint8_t *>(out), outSize);
-    return error == 0;
+    error = session == 0
+                ? 6 // ERROR_INVALID_HANDLE
+                : m_endpoint->control(session, controlCode, static_cast<const std::uint8_t *>(in),
+                                      inSize, static_cast<std::uint8_t *>(out), outSize);
+    if (error != SK_SYSERR_NONE)
+        t_lastError = error;
+    return error == SK_SYSERR_NONE;
+}
+
+std::uint32_t SK_EmulatedPlatform::lastError() const
+{
+    return t_lastError;
 }
 
 void SK_EmulatedPlatform::sleep(std::uint32_t milliseconds)

@@ -14,7 +14,7 @@
 // Outcome of one transfer at the endpoint, in the system's own terms.
 struct SK_HostIo
 {
-    bool queued = true;                        // false: the system refused to queue it
+    bool queued = true;                         // false: the system refused to queue it
     std::uint32_t systemError = SK_SYSERR_NONE; // completion error (Win32 numbering)
     std::uint32_t bytes = 0;                    // bytes moved
 };
@@ -32,8 +32,8 @@ public:
     virtual void close(std::uint64_t session) = 0;
     virtual SK_HostIo read(std::uint64_t session, std::uint64_t position, std::uint8_t *data,
                            std::uint32_t size) = 0;
-    virtual SK_HostIo write(std::uint64_t session, std::uint64_t position,
-                            const std::uint8_t *data, std::uint32_t size) = 0;
+    virtual SK_HostIo write(std::uint64_t session, std::uint64_t position, const std::uint8_t *data,
+                            std::uint32_t size) = 0;
 
     // Called for every alertable sleep, so an endpoint with its own clock can let
     // time pass. The default does nothing.
@@ -65,6 +65,8 @@ public:
     bool deviceControl(SK_Handle handle, std::uint32_t controlCode, const void *in,
                        std::uint32_t inSize, void *out, std::uint32_t outSize,
                        std::uint32_t &error) override;
+    // Set by failed opens and device control requests, per thread as on the real system.
+    std::uint32_t lastError() const override;
     SK_SystemView &system() override { return m_endpoint->system(); }
 
     SK_HostEndpoint &endpoint() const { return *m_endpoint; }

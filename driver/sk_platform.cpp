@@ -11,6 +11,11 @@ bool SK_Platform::deviceControl(SK_Handle, std::uint32_t, const void *, std::uin
     return false;
 }
 
+std::uint32_t SK_Platform::lastError() const
+{
+    return SK_SYSERR_FILE_NOT_FOUND;
+}
+
 SK_SystemView &SK_Platform::system()
 {
     static SK_SystemView nothing;

@@ -55,6 +55,11 @@ public:
                                std::uint32_t inSize, void *out, std::uint32_t outSize,
                                std::uint32_t &error);
 
+    // The system error of this thread's last platform call that failed, as the system
+    // numbers it (GetLastError on Windows). Read it straight after the failing call; the
+    // default is the error of a device that does not exist.
+    virtual std::uint32_t lastError() const;
+
     // Volumes, disks and host facts of this system. The default knows of none.
     virtual SK_SystemView &system();
 };

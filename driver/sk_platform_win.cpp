@@ -111,6 +111,8 @@ public:
         return static_cast<SK_Handle>(reinterpret_cast<std::uintptr_t>(handle));
     }
 
+    std::uint32_t lastError() const override { return GetLastError(); }
+
     void closeDevice(SK_Handle handle) override { CloseHandle(toWin32(handle)); }
 
     std::uint32_t transfer(bool isRead, SK_Handle handle, void *buffer, std::uint64_t position,

@@ -97,8 +97,8 @@ std::uint32_t SKTL_CheckRange(const void *address, std::size_t length)
     for (std::uint32_t i = 0; i < t.count; ++i) {
         const auto blockStart = reinterpret_cast<std::uintptr_t>(t.blocks[i].address);
         const std::size_t blockSize = t.blocks[i].size;
-        if (start >= blockStart && start - blockStart <= blockSize
-            && length <= blockSize - (start - blockStart))
+        if (start >= blockStart && start - blockStart <= blockSize &&
+            length <= blockSize - (start - blockStart))
             return 1;
     }
     return 0;
@@ -173,19 +173,22 @@ void SKTL_DeviceClose(SK_Handle handle)
         SK_CurrentPlatform().closeDevice(handle);
 }
 
+std::uint32_t SKTL_LastError()
+{
+    return SK_CurrentPlatform().lastError();
+}
+
 std::uint32_t SKTL_DeviceTransfer(bool isRead, SK_Handle handle, void *buffer,
                                   std::uint64_t position, std::uint32_t size, void *context,
                                   SKTL_Callback callback)
 {
     if (!SKTL_CheckRange(buffer, size))
         return SKTL_STS_INVALID_BUFFER;
-    return SK_CurrentPlatform().transfer(isRead, handle, buffer, position, size, context,
-                                         callback);
+    return SK_CurrentPlatform().transfer(isRead, handle, buffer, position, size, context, callback);
 }
 
-bool SKTL_DeviceControl(SK_Handle handle, std::uint32_t controlCode, void *in,
-                        std::uint32_t inSize, void *out, std::uint32_t outSize,
-                        std::uint32_t &error)
+bool SKTL_DeviceControl(SK_Handle handle, std::uint32_t controlCode, void *in, std::uint32_t inSize,
+                        void *out, std::uint32_t outSize, std::uint32_t &error)
 {
     return SK_CurrentPlatform().deviceControl(handle, controlCode, in, inSize, out, outSize, error);
 }

@@ -64,6 +64,10 @@ bool SKTL_TranslatePath(const char *path, std::string &osName);
 SK_Handle SKTL_DeviceOpen(const char *path, std::uint32_t openMode, std::uint32_t flagMode);
 void SKTL_DeviceClose(SK_Handle handle);
 
+// The system error of this thread's last failed device call (GetLastError on Windows),
+// for messages that print it; read it straight after the call that failed.
+std::uint32_t SKTL_LastError();
+
 // Reads or writes `size` bytes at `position`. The buffer must lie inside one tracked
 // block, else 6 (SKTL_STS_INVALID_BUFFER) and nothing is sent. Returns 1 (done),
 // 2 (end of file) or 3 (failed or refused). With a callback, returns 1 once queued.
@@ -72,9 +76,8 @@ std::uint32_t SKTL_DeviceTransfer(bool isRead, SK_Handle handle, void *buffer,
                                   SKTL_Callback callback);
 
 // One device control request on an open handle; false with the system error on failure.
-bool SKTL_DeviceControl(SK_Handle handle, std::uint32_t controlCode, void *in,
-                        std::uint32_t inSize, void *out, std::uint32_t outSize,
-                        std::uint32_t &error);
+bool SKTL_DeviceControl(SK_Handle handle, std::uint32_t controlCode, void *in, std::uint32_t inSize,
+                        void *out, std::uint32_t outSize, std::uint32_t &error);
 
 // Alertable sleep through the platform.
 void SKTL_Sleep(std::uint32_t milliseconds);

@@ -178,7 +178,7 @@ std::uint32_t SK_ReportEvent(std::uint32_t messageId, std::uint32_t p1, std::uin
 {
     const SK_Handle device = SKTL_DeviceOpen("\\\\.\\SKConfig0", 5, 1);
     if (device == 0) {
-        std::printf("Error: CreatFile Failed : %d\n", 2);
+        std::printf("Error: CreatFile Failed : %d\n", static_cast<int>(SKTL_LastError()));
         return SK_STS_FAILURE;
     }
     std::uint32_t status = SK_STS_FAILURE;

@@ -7,6 +7,7 @@
 #include <cctype>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -139,6 +140,18 @@ TEST_F(ChannelTest, missingDeviceLeavesAnUnopenedCoreWithoutTransfers)
     EXPECT_EQ(SK_WithFreshCore(&entry, [&](SK_Core &) { return ++attempts, 1u; }),
               SK_STS_INVALID_CORE_HANDLE);
     EXPECT_EQ(attempts, 0);
+}
+
+TEST_F(ChannelTest, aFailedOpenLeavesItsSystemErrorToItsOwnThread)
+{
+    device->devices.clear();
+    EXPECT_EQ(SKTL_DeviceOpen("\\\\.\\SKConfig0", 8, 3), 0u);
+    EXPECT_EQ(SKTL_LastError(), SK_SYSERR_FILE_NOT_FOUND);
+    EXPECT_EQ(SKTL_DeviceOpen("\\\\.\\SKConfig0", 9, 3), 0u);
+    EXPECT_EQ(SKTL_LastError(), SK_SYSERR_INVALID_PARAMETER);
+    std::uint32_t elsewhere = 99;
+    std::thread([&elsewhere] { elsewhere = SKTL_LastError(); }).join();
+    EXPECT_EQ(elsewhere, SK_SYSERR_NONE);
 }
 
 TEST_F(ChannelTest, coreZeroNamesNoDevice)

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 namespace {
@@ -207,12 +208,38 @@ TEST(ReportEvent, writesIntoTheDriversLog)
     EXPECT_EQ(SK_EventCode(1015, 4), 0xC1E003F7u);
 }
 
+// A control device another process holds exclusively: every open is denied.
+class DeniedPlatform final : public SK_Platform
+{
+public:
+    const char *name() const override { return "denied"; }
+    SK_Handle openDevice(const char *, std::uint32_t, std::uint32_t) override { return 0; }
+    void closeDevice(SK_Handle) override {}
+    std::uint32_t transfer(bool, SK_Handle, void *, std::uint64_t, std::uint32_t, void *,
+                           SKTL_Callback) override
+    {
+        return 3;
+    }
+    void sleep(std::uint32_t) override {}
+    std::uint32_t lastError() const override { return 5; } // ERROR_ACCESS_DENIED
+};
+
+TEST(ReportEvent, aRefusedOpenPrintsTheSystemsError)
+{
+    SK_InstallPlatform(std::make_unique<DeniedPlatform>());
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(SK_ReportEvent(1014, 1, 0, 0, 0, 0, 0, 0, 0), 3u);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Error: CreatFile Failed : 5\n");
+    SK_InstallPlatform(nullptr);
+}
+
 TEST(ReportEvent, withoutADeviceSaysSo)
 {
     SK_InstallPlatform(nullptr);
     testing::internal::CaptureStdout();
     EXPECT_EQ(SK_ReportEvent(1014, 1, 0, 0, 0, 0, 0, 0, 0), 3u);
-    EXPECT_EQ(testing::internal::GetCapturedStdout().rfind("Error: CreatFile Failed : ", 0), 0u);
+    // No device at all: the open fails as for a name the system does not know.
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Error: CreatFile Failed : 2\n");
 }
 
 } // namespace

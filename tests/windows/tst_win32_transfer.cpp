@@ -164,10 +164,12 @@ TEST_F(Win32Transfer, openModesCreateOnlyWhereTheyShould)
 {
     // Open existing fails on a file that isn't there; create new fails on one that is.
     EXPECT_EQ(open(kOpenExistingShared, 1), 0u);
+    EXPECT_EQ(SKTL_LastError(), 2u); // ERROR_FILE_NOT_FOUND, as the system gives it
     const SK_Handle created = open(1, 1);
     ASSERT_NE(created, 0u);
     SKTL_DeviceClose(created);
     EXPECT_EQ(open(1, 1), 0u);
+    EXPECT_EQ(SKTL_LastError(), 80u); // ERROR_FILE_EXISTS
     const SK_Handle existing = open(kOpenExistingShared, 1);
     EXPECT_NE(existing, 0u);
     SKTL_DeviceClose(existing);
@@ -178,6 +180,7 @@ TEST_F(Win32Transfer, exclusiveOpenKeepsOthersOutAndSharedOpenLetsThemIn)
     const SK_Handle exclusive = open(3, 1);
     ASSERT_NE(exclusive, 0u);
     EXPECT_EQ(open(kOpenExistingShared, 1), 0u) << "a second open got past an exclusive one";
+    EXPECT_EQ(SKTL_LastError(), 32u); // ERROR_SHARING_VIOLATION
     SKTL_DeviceClose(exclusive);
 
     const SK_Handle shared = open(kOpenExistingShared, 1);
