@@ -8,7 +8,17 @@
 
 namespace {
 
+#if defined(__MINGW32__)
+#define SK_PRINTF_LIKE __attribute__((format(__MINGW_PRINTF_FORMAT, 1, 2)))
+#elif defined(__GNUC__)
+#define SK_PRINTF_LIKE __attribute__((format(printf, 1, 2)))
+#else
+#define SK_PRINTF_LIKE
+#endif
+
 // The report's texts come from printf formats; keep them so.
+SK_PRINTF_LIKE std::string format(const char *pattern, ...);
+
 std::string format(const char *pattern, ...)
 {
     char text[256];
