@@ -26,9 +26,17 @@ if(SK_SANITIZE)
     target_link_options(sk_compile_options INTERFACE ${_sk_san})
 endif()
 
-# sk_add_library(name SOURCES ... [LINKS ...]): one library target per layer.
+# sk_qt_autogen(target...): moc, uic and rcc for targets of the Qt half. They are
+# switched on target by target, never for the whole tree: each one adds a generator
+# step to its target, and the plain C++ half must build without any Qt tool.
+function(sk_qt_autogen)
+    set_target_properties(${ARGN} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+endfunction()
+
+# sk_add_library(name [QT] SOURCES ... [LINKS ...]): one library target per layer.
+# QT, or a folder the top level marks with SK_QT_LAYER, runs moc, uic and rcc on it.
 function(sk_add_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
     if(ARG_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "sk_add_library(${name}): unknown arguments ${ARG_UNPARSED_ARGUMENTS}")
     endif()
@@ -38,6 +46,9 @@ function(sk_add_library name)
         add_library(${name} STATIC ${ARG_SOURCES})
         target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
         target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE sk_compile_options)
+        if(ARG_QT OR SK_QT_LAYER)
+            sk_qt_autogen(${name})
+        endif()
     else()
         # A layer that so far holds only headers.
         add_library(${name} INTERFACE ${ARG_SOURCES})
