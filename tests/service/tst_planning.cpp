@@ -1,0 +1,958 @@
+// Create, transform and tier planning of SK_RaidApi against a fresh emulated host.
+// Expected verdicts and texts are written out here as the console's rules give them,
+// not taken from the service's tables; sizes are worked out from the disks.
+
+#include "emulator/emulator.h"
+#include "service/service.h"
+#include "support/recording_endpoint.h"
+
+#include <QtTest>
+
+#include <cstring>
+#include <memory>
+
+namespace {
+
+using namespace sk_emu;
+
+constexpr std::uint64_t kMiB = 2048; // sectors
+constexpr std::uint32_t kHdd = code::PortSata | code::Port6G;
+constexpr std::uint32_t kSsd = code::PortSata | code::Port6G | code::PortSsd;
+constexpr std::uint32_t kNvme = code::PortNvme | code::PortNvmeGen4;
+
+// A disk whose usable room (before the driver's metadata) is `usableMiB`. Its id in
+// the console is port + 1.
+Disk labDisk(std::uint32_t port, std::uint64_t usableMiB, std::uint32_t portType = kHdd)
+{
+    Disk d;
+    d.id = 0x5000000000000100ull + port;
+    d.port = port;
+    d.capacity = usableMiB * kMiB + kMetadataSectors;
+    d.portType = portType;
+    d.model = "LAB DISK";
+    d.serial = "LAB" + std::to_string(port);
+    d.firmware = "1.0";
+    d.vendor = "ATA";
+    return d;
+}
+
+// The default workstation's controller and host with `sizes` disks and no arrays.
+Model labModel(const std::vector<std::uint64_t> &sizes, std::uint32_t portType = kHdd)
+{
+    Model m = defaultScenario();
+    m.disks.clear();
+    m.arrays.clear();
+    m.volumes.clear();
+    m.controllers[0].ports = 32;
+    for (std::size_t i = 0; i < sizes.size(); ++i)
+        m.disks.push_back(labDisk(static_cast<std::uint32_t>(i), sizes[i], portType));
+    return m;
+}
+
+Model equalDisks(int count, std::uint64_t usableMiB = 1000)
+{
+    return labModel(std::vector<std::uint64_t>(static_cast<std::size_t>(count), usableMiB));
+}
+
+// An array over the first `extentMiB` of each of `disks` (console ids).
+Array labArray(const Model &m, std::uint16_t route, const char *name, std::uint32_t type,
+               std::uint32_t first, std::uint32_t second, const std::vector<int> &disks,
+               std::uint64_t extentMiB, std::uint64_t offsetMiB = 0)
+{
+    Array a;
+    a.id = 0x3C00000000000000ull + route;
+    a.route = route;
+    a.name = name;
+    a.layout.type = type;
+    a.layout.firstCount = first;
+    a.layout.secondCount = second;
+    const std::uint64_t extent = extentMiB * kMiB, offset = offsetMiB * kMiB;
+    for (int disk : disks)
+        a.layout.members.push_back(Member{m.disks[static_cast<std::size_t>(disk - 1)].id, offset,
+                                          extent, offset, extent, 0});
+    a.layout.capacity =
+        layoutCapacity(type, first, second, extent, extent * disks.size()) / kMiB * kMiB;
+    a.generation = 1;
+    return a;
+}
+
+// Decimal megabytes the console shows for a number of binary ones.
+int decimalOf(std::uint64_t mib)
+{
+    return static_cast<int>((mib * 1048576 + 500000) / 1000000);
+}
+
+// Binary megabytes the console asks for a number of decimal ones.
+std::uint64_t binaryOf(std::uint64_t decimal)
+{
+    return (decimal * 1000000 + 524288) / 1048576;
+}
+
+// Passes everything to the host and, once armed, has the driver refuse the next
+// planning read of one code with a status of its own finding.
+class ArmingEndpoint : public RecordingEndpoint
+{
+public:
+    explicit ArmingEndpoint(std::shared_ptr<Host> host)
+        : RecordingEndpoint(host), m_host(std::move(host))
+    {
+    }
+    SK_HostIo write(std::uint64_t session, std::uint64_t position, const std::uint8_t *data,
+                    std::uint32_t size) override
+    {
+        if (armedStatus && size >= 36 && SK_GetU32(data, 0) == SK_COMMAND_READ &&
+            SK_GetU32(data, 32) == armedCode) {
+            m_host->refuseNextRequests(1, armedStatus);
+            armedStatus = 0;
+        }
+        return RecordingEndpoint::write(session, position, data, size);
+    }
+    std::uint32_t armedCode = 0;
+    std::uint32_t armedStatus = 0;
+
+private:
+    std::shared_ptr<Host> m_host;
+};
+
+class Lab
+{
+public:
+    explicit Lab(Model model)
+        : clock(std::make_shared<SK_EmuManualClock>(1000000)),
+          host(std::make_shared<Host>(std::move(model), clock)),
+          endpoint(std::make_shared<ArmingEndpoint>(host))
+    {
+        SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(endpoint));
+        api = std::make_unique<SK_RaidApi>();
+    }
+    ~Lab() { SK_InstallPlatform(nullptr); }
+
+    // Runs the emulated clock until the array's task has ended, reading the
+    // configuration as the main window would.
+    bool runTaskToEnd(int array)
+    {
+        for (int step = 0; step < 20000; ++step) {
+            api->RefreshConfig();
+            if (!api->ArrayHasTask(array))
+                return true;
+            clock->advance(5000);
+        }
+        return false;
+    }
+
+    const SK_ConfigArray *arrayNamed(const char *name) const
+    {
+        for (const LogicalDrive *a : api->GetArrayList()) {
+            if (std::strcmp(a->DisplayName, name) == 0)
+                return a;
+        }
+        return nullptr;
+    }
+
+    std::shared_ptr<SK_EmuManualClock> clock;
+    std::shared_ptr<Host> host;
+    std::shared_ptr<ArmingEndpoint> endpoint;
+    std::unique_ptr<SK_RaidApi> api;
+};
+
+SK_Create request(const QString &type, const QList<int> &disks, qint32 size = 500)
+{
+    SK_Create c;
+    c.name = QStringLiteral("Lab");
+    c.type = type;
+    c.size = size;
+    c.cache = QStringLiteral("RW");
+    for (int i = 0; i < disks.size(); ++i)
+        c.disks[i] = static_cast<quint32>(disks[i]);
+    c.diskCount = disks.size();
+    return c;
+}
+
+QList<int> firstDisks(int n)
+{
+    QList<int> ids;
+    for (int i = 1; i <= n; ++i)
+        ids.append(i);
+    return ids;
+}
+
+enum class Setup {
+    SeventeenDisks,
+    TwelveArrays,
+    SmartErrorDisk,
+    Raid5Disabled,
+    DriverFindsSmart,
+    DisksFull,
+};
+
+Model modelFor(Setup setup)
+{
+    Model m = equalDisks(17);
+    switch (setup) {
+    case Setup::TwelveArrays:
+        for (std::uint16_t r = 1; r <= 12; ++r)
+            m.arrays.push_back(
+                labArray(m, r, "Small", code::TypeMirrorStripe, 1, 1, {17}, 10, (r - 1) * 10u));
+        break;
+    case Setup::SmartErrorDisk:
+        m.disks[1].state = code::DiskSmartError;
+        break;
+    case Setup::Raid5Disabled:
+        m.host.disabledLevels = {"RAID5"};
+        break;
+    case Setup::DisksFull:
+        m.arrays.push_back(labArray(m, 1, "Full", code::TypeMirrorStripe, 2, 1, {1, 2}, 1000));
+        break;
+    default:
+        break;
+    }
+    return m;
+}
+
+struct Options
+{
+    bool skipInit = false, zero = false, leaveData = false;
+    qint32 cacheTagSize = 0;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Setup)
+Q_DECLARE_METATYPE(QList<int>)
+
+class tst_planning : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void createVerdicts_data();
+    void createVerdicts();
+    void unraisedCreateRowsStayUnraised();
+    void createMaximum_data();
+    void createMaximum();
+    void createClampsToTheMaximum();
+    void createReachesTheDrivers_data();
+    void createReachesTheDrivers();
+    void transformVerdicts_data();
+    void transformVerdicts();
+    void transformRunsToCompletion_data();
+    void transformRunsToCompletion();
+    void transformAboveTheMaximumIsRefused();
+    void tiersOverTwoArrays_data();
+    void tiersOverTwoArrays();
+    void tierRefusals();
+    void namesMixingAndTrim();
+};
+
+// --- Create verdicts ---
+
+void tst_planning::createVerdicts_data()
+{
+    QTest::addColumn<Setup>("setup");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QList<int>>("disks");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("query");
+    QTest::addColumn<int>("flags"); // 1 skipInit, 2 zero, 4 leaveData, 8 tag size 32
+    QTest::addColumn<int>("verdict");
+    QTest::addColumn<QString>("text");
+
+    auto row = [](const char *name, Setup setup, const char *type, QList<int> disks, int size,
+                  bool query, int flags, int verdict, const char *text) {
+        QTest::newRow(name) << setup << QString::fromLatin1(type) << disks << size << query << flags
+                            << verdict << QString::fromLatin1(text);
+    };
+    const Setup plain = Setup::SeventeenDisks;
+    row("twelve arrays stop a RAID 5 that would fit", Setup::TwelveArrays, "RAID5", firstDisks(3),
+        500, true, 0, -100, "create would exceed maximum number of arrays allowed");
+    row("twelve arrays stop even an empty selection", Setup::TwelveArrays, "VOLUME", {}, 500, true,
+        0, -100, "create would exceed maximum number of arrays allowed");
+    row("a commit of 99 MB is too small", plain, "RAID1", firstDisks(2), 99, false, 0, -99,
+        "create size must be at least 100MB");
+    row("skip initialise with zero create, before the type", plain, "VOLUME", firstDisks(1), 500,
+        true, 1 | 2, -98, "--no-sync and --zero options can't both be specified");
+    row("leave data with zero create", plain, "RAID1", firstDisks(2), 500, true, 2 | 4, -97,
+        "--leave-existing-data and --zero options can not be specified at the same time");
+    row("a RAID 5 without disks", plain, "RAID5", {}, 500, true, 0, -96, "no disks were selected");
+    row("a RAID 60 of eight disks has no sub-member option", plain, "RAID60", firstDisks(8), 500,
+        true, 0, -92, "--sub-member option not available for selected RAID type");
+    row("skip initialise on a one disk RAID 0, before its count", plain, "RAID0", firstDisks(1),
+        500, true, 1, -91, "--no-sync option not available for selected RAID type");
+    row("skip initialise on a volume (forced: the dialog clears it)", plain, "VOLUME",
+        firstDisks(1), 500, true, 1, -91, "--no-sync option not available for selected RAID type");
+    row("skip initialise on a RAIDable disk (forced)", plain, "RAIDABLE", firstDisks(1), 500, true,
+        1, -91, "--no-sync option not available for selected RAID type");
+    row("a volume of nine disks", plain, "VOLUME", firstDisks(9), 500, true, 0, -90,
+        "VOLUME is limited to 8 drives");
+    row("two disks for RAIDable (forced: not in the dialog)", plain, "RAIDABLE", firstDisks(2), 500,
+        true, 0, -89, "--disk must be one for RAIDAble");
+    row("a RAID 0 of one disk", plain, "RAID0", firstDisks(1), 500, true, 0, -87,
+        "RAID0 requires at least 2 to 8 drives");
+    row("a RAID 0 of nine disks", plain, "RAID0", firstDisks(9), 500, true, 0, -87,
+        "RAID0 requires at least 2 to 8 drives");
+    row("a RAID 1 of three disks", plain, "RAID1", firstDisks(3), 500, true, 0, -86,
+        "RAID1 requires 2 drives");
+    row("a RAID 1N of two disks (forced)", plain, "RAID1N", firstDisks(2), 500, true, 0, -85,
+        "RAID1n requires 3 or more drives");
+    row("a RAID 1N of nine disks (forced)", plain, "RAID1N", firstDisks(9), 500, true, 0, -84,
+        "RAID1n is limited to 8 drives");
+    row("a RAID 10 of five disks", plain, "RAID10", firstDisks(5), 500, true, 0, -82,
+        "RAID10 must have an even number of 4 to 8 disks");
+    row("a RAID 10 of ten disks", plain, "RAID10", firstDisks(10), 500, true, 0, -82,
+        "RAID10 must have an even number of 4 to 8 disks");
+    row("a RAID 10 of two disks", plain, "RAID10", firstDisks(2), 500, true, 0, -82,
+        "RAID10 must have an even number of 4 to 8 disks");
+    row("a RAID 10N of five disks (forced)", plain, "RAID10N", firstDisks(5), 500, true, 0, -79,
+        "RAID10n requires a minimum of 6 disks");
+    row("a RAID 10N of six disks (forced)", plain, "RAID10N", firstDisks(6), 500, true, 0, -78,
+        "number of disks not evenly divisible by sub count");
+    row("a RAID 5 of two disks", plain, "RAID5", firstDisks(2), 500, true, 0, -75,
+        "RAID5 requires at least 3 drives");
+    row("a RAID 5 of nine disks", plain, "RAID5", firstDisks(9), 500, true, 0, -74,
+        "RAID5 is limited to 8 drives");
+    row("a tier over a disk (forced)", plain, "RTIER", firstDisks(1), 500, true, 0, -72,
+        "You cannot select physical drives for RTIER");
+    row("a tier without disks is not 'no disks' (forced)", plain, "RTIER", {}, 500, true, 0, -71,
+        "You must select 2 VDs for RTIER");
+    row("a RAID 6 of three disks (forced)", plain, "RAID6", firstDisks(3), 500, true, 0, -69,
+        "RAID6 requires at least 4 drives");
+    row("a RAID 6 of nine disks (forced)", plain, "RAID6", firstDisks(9), 500, true, 0, -68,
+        "RAID6 is limited to 8 drives");
+    row("a RAID 6 of seventeen disks (forced)", plain, "RAID6", firstDisks(17), 500, true, 0, -68,
+        "RAID6 is limited to 8 drives");
+    row("a RAID 50 of five disks (forced)", plain, "RAID50", firstDisks(5), 500, true, 0, -65,
+        "must select at least 6 drives for a RAID50");
+    row("a RAID 50 of six disks (forced)", plain, "RAID50", firstDisks(6), 500, true, 0, -64,
+        "--sub-member must be 3 or greater for RAID50");
+    row("a RAID 60 of seven disks (forced)", plain, "RAID60", firstDisks(7), 500, true, 0, -61,
+        "must select at least 8 drives for a RAID60");
+    row("LEGACY is no create type (forced)", plain, "LEGACY", firstDisks(1), 500, true, 0, -59,
+        "error, no RAID type specified");
+    row("a disk with a SMART error in the picture", Setup::SmartErrorDisk, "RAID1", firstDisks(2),
+        500, true, 0, -58, "a disk selected not present or valid");
+    row("a disk that isn't there (forced)", plain, "RAID1", {1, 40}, 500, true, 0, -58,
+        "a disk selected not present or valid");
+    row("the driver finds a SMART error itself", Setup::DriverFindsSmart, "RAID1", firstDisks(2),
+        500, true, 0, -57,
+        "The create failed because one of the drives is displaying SMART errors");
+    row("the driver has RAID 5 disabled", Setup::Raid5Disabled, "RAID5", firstDisks(3), 500, true,
+        0, -56, "Support for the selected raid level is disabled");
+    row("a cache tag size of 32 (forced)", plain, "RAID1", firstDisks(2), 500, true, 8, -55,
+        "error determining maximum possible size, check arguments");
+    row("disks without free room", Setup::DisksFull, "RAID1", firstDisks(2), 500, true, 0, -55,
+        "error determining maximum possible size, check arguments");
+}
+
+void tst_planning::createVerdicts()
+{
+    QFETCH(Setup, setup);
+    QFETCH(QString, type);
+    QFETCH(QList<int>, disks);
+    QFETCH(int, size);
+    QFETCH(bool, query);
+    QFETCH(int, flags);
+    QFETCH(int, verdict);
+    QFETCH(QString, text);
+
+    Lab lab(modelFor(setup));
+    if (setup == Setup::DriverFindsSmart) {
+        lab.endpoint->armedCode = 4109;
+        lab.endpoint->armedStatus = SK_STS_DEVICE_SMART_ERROR;
+    }
+    SK_Create c = request(type, disks, size);
+    c.skipInit = flags & 1;
+    c.zeroCreate = flags & 2;
+    c.leaveData = flags & 4;
+    c.cacheTagSize = flags & 8 ? 32 : 0;
+    const int generation = static_cast<int>(lab.host->generation());
+    const int result = lab.api->CreateArray(c, query);
+    QCOMPARE(result, verdict);
+    QCOMPARE(createErrorList.at(result + 100), text + QLatin1Char('\n'));
+    QVERIFY2(lab.endpoint->withCode(2).empty(), "a verdict must not create anything");
+    QCOMPARE(static_cast<int>(lab.host->generation()), generation);
+}
+
+// The rows marked as never raised stay so, whatever the type, count and options.
+void tst_planning::unraisedCreateRowsStayUnraised()
+{
+    const QList<int> unraised = {5,  6,  7,  12, 17, 19, 20, 23, 24,
+                                 27, 30, 33, 34, 37, 38, 40, 46, 47};
+    QCOMPARE(createErrorList.size(), 48);
+    QCOMPARE(transformErrorList.size(), 35);
+    for (const QString &text : createErrorList + transformErrorList)
+        QVERIFY2(text.endsWith(QLatin1Char('\n')), qPrintable(text));
+
+    Lab lab(equalDisks(17));
+    const QStringList types = {"VOLUME",  "RAIDABLE", "RAID0", "RAID1", "RAID1N", "RAID10",
+                               "RAID10N", "RAID5",    "RTIER", "RAID6", "RAID50", "RAID60"};
+    for (const QString &type : types) {
+        for (int n = 0; n <= 17; ++n) {
+            for (int flags = 0; flags < 8; ++flags) {
+                SK_Create c = request(type, firstDisks(n));
+                c.skipInit = flags & 1;
+                c.zeroCreate = flags & 2;
+                c.leaveData = flags & 4;
+                const int result = lab.api->CreateArray(c, true);
+                QVERIFY2(
+                    result >= 0 || !unraised.contains(result + 100),
+                    qPrintable(
+                        QStringLiteral("%1 over %2 disks gave %3").arg(type).arg(n).arg(result)));
+            }
+        }
+    }
+}
+
+// --- Maximum sizes ---
+
+void tst_planning::createMaximum_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QList<int>>("sizes");   // usable MiB of each disk
+    QTest::addColumn<QList<int>>("usedMiB"); // MiB already taken at the start of each disk
+    QTest::addColumn<int>("expectedMiB");
+
+    auto row = [](const char *name, const char *type, QList<int> sizes, QList<int> used, int mib) {
+        QTest::newRow(name) << QString::fromLatin1(type) << sizes << used << mib;
+    };
+    row("volume over three equal disks", "VOLUME", {1000, 1000, 1000}, {}, 3000);
+    row("RAIDable disk", "RAIDABLE", {1000}, {}, 1000);
+    row("RAIDable disk with half its room used", "RAIDABLE", {1000}, {500}, 500);
+    row("RAID 0 over three equal disks", "RAID0", {1000, 1000, 1000}, {}, 3000);
+    row("RAID 0 over unequal disks: the smallest rules", "RAID0", {1000, 600, 800}, {}, 1800);
+    row("RAID 1 over equal disks", "RAID1", {1000, 1000}, {}, 1000);
+    row("RAID 1 over unequal disks", "RAID1", {1000, 700}, {}, 700);
+    row("RAID 1 where one disk has 400 MiB in use", "RAID1", {1000, 1000}, {400, 0}, 600);
+    row("RAID 1N over three equal disks", "RAID1N", {1000, 1000, 1000}, {}, 1000);
+    row("RAID 1N over unequal disks", "RAID1N", {1000, 900, 1000}, {}, 900);
+    row("RAID 10 over four equal disks", "RAID10", {1000, 1000, 1000, 1000}, {}, 2000);
+    row("RAID 10 over six disks, one small", "RAID10", {1000, 1000, 1000, 1000, 1000, 500}, {},
+        1500);
+    row("RAID 5 over three equal disks", "RAID5", {1000, 1000, 1000}, {}, 2000);
+    row("RAID 5 over four unequal disks", "RAID5", {1000, 900, 1000, 1000}, {}, 2700);
+    row("RAID 5 with free extents of 750 MiB on one disk", "RAID5", {1000, 1000, 1000}, {0, 250, 0},
+        1500);
+    row("RAID 6 over four equal disks", "RAID6", {1000, 1000, 1000, 1000}, {}, 2000);
+    row("RAID 6 over eight unequal disks", "RAID6", {1000, 1000, 800, 1000, 1000, 1000, 1000, 1000},
+        {}, 4800);
+    row("RAID 0 over two disks of ten million MiB", "RAID0", {10000000, 10000000}, {}, 20000000);
+}
+
+void tst_planning::createMaximum()
+{
+    QFETCH(QString, type);
+    QFETCH(QList<int>, sizes);
+    QFETCH(QList<int>, usedMiB);
+    QFETCH(int, expectedMiB);
+
+    std::vector<std::uint64_t> usable;
+    for (int s : sizes)
+        usable.push_back(static_cast<std::uint64_t>(s));
+    Model m = labModel(usable);
+    for (int i = 0; i < usedMiB.size(); ++i) {
+        if (usedMiB[i] > 0)
+            m.arrays.push_back(labArray(m, static_cast<std::uint16_t>(m.arrays.size() + 1), "Taken",
+                                        code::TypeVolume, 1, 1, {i + 1},
+                                        static_cast<std::uint64_t>(usedMiB[i])));
+    }
+    Lab lab(std::move(m));
+    SK_Create c = request(type, firstDisks(sizes.size()), 50); // the size is not looked at
+    const int max = lab.api->CreateArray(c, true);
+    QCOMPARE(max, decimalOf(static_cast<std::uint64_t>(expectedMiB)));
+}
+
+void tst_planning::createClampsToTheMaximum()
+{
+    Lab lab(equalDisks(3));
+    SK_Create c = request(QStringLiteral("RAID5"), firstDisks(3), 100000000);
+    c.name = QStringLiteral("Huge");
+    QCOMPARE(lab.api->CreateArray(c, false), 1);
+    const auto sent = lab.endpoint->withCode(2);
+    QCOMPARE(sent.size(), std::size_t{1});
+    QCOMPARE(sent[0].u64(56), std::uint64_t{2000});
+    lab.api->RefreshConfig();
+    const SK_ConfigArray *huge = lab.arrayNamed("Huge");
+    QVERIFY2(huge, "the clamped array must be created");
+    QCOMPARE(huge->Capacity, std::uint64_t{2000} * kMiB);
+
+    // The maximum the dialog shows, asked for as it stands, creates the same array.
+    Lab again(equalDisks(3));
+    SK_Create shown = request(QStringLiteral("RAID5"), firstDisks(3), 0);
+    shown.size = again.api->CreateArray(shown, true);
+    shown.name = QStringLiteral("Shown");
+    QCOMPARE(again.api->CreateArray(shown, false), 1);
+    again.api->RefreshConfig();
+    QVERIFY(again.arrayNamed("Shown"));
+    QCOMPARE(again.arrayNamed("Shown")->Capacity, std::uint64_t{2000} * kMiB);
+
+    // Wanted sizes pass through single precision: above 2^24 MB the last one is lost.
+    QVERIFY(SK_RaidApi::ToBinaryMB(2000001) != SK_RaidApi::ToBinaryMB(2000000));
+    QCOMPARE(SK_RaidApi::ToBinaryMB(20000001), SK_RaidApi::ToBinaryMB(20000000));
+}
+
+// --- Commits ---
+
+void tst_planning::createReachesTheDrivers_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("disks");
+    QTest::addColumn<bool>("nvme");
+    QTest::addColumn<QString>("cache");
+    QTest::addColumn<int>("tagSize");
+    QTest::addColumn<int>("options"); // 1 skipInit, 2 zero, 4 leaveData, 8 background scan
+    QTest::addColumn<int>("size");
+    QTest::addColumn<uint>("driverType");
+    QTest::addColumn<uint>("first");
+    QTest::addColumn<uint>("second");
+    QTest::addColumn<uint>("cacheWord");
+    QTest::addColumn<uint>("tagCode");
+    QTest::addColumn<uint>("policy");
+    QTest::addColumn<QString>("shownType");
+
+    auto row = [](const char *name, const char *type, int disks, bool nvme, const char *cache,
+                  int tag, int options, int size, uint driverType, uint first, uint second,
+                  uint word, uint tagCode, uint policy, const char *shown) {
+        QTest::newRow(name) << QString::fromLatin1(type) << disks << nvme
+                            << QString::fromLatin1(cache) << tag << options << size << driverType
+                            << first << second << word << tagCode << policy
+                            << QString::fromLatin1(shown);
+    };
+    row("volume of two disks, no cache", "VOLUME", 2, false, "NC", 0, 0, 1500, 7159, 2, 1, 0, 1, 0,
+        "VOLUME");
+    row("RAIDable disk, read cache, 64 KB tags", "RAIDABLE", 1, false, "R", 64, 8, 800, 7163, 1, 1,
+        0x80000000u, 1, 0x400, "RAIDABLE");
+    row("RAID 0 of three, write cache, 128 KB tags", "RAID0", 3, false, "W", 128, 0, 2500, 7158, 3,
+        1, 0x40000000u, 2, 0, "RAID0");
+    row("RAID 1 skipping initialise", "RAID1", 2, false, "RW", 256, 1, 900, 7158, 1, 2, 0xC0000000u,
+        3, 0x1000, "RAID1");
+    row("RAID 1N of three with zero create", "RAID1N", 3, false, "WR", 0, 2, 700, 7158, 1, 3,
+        0xC0000000u, 1, 0x10000, "RAID1N");
+    row("RAID 10 of four leaving the data", "RAID10", 4, false, "RW", 0, 4 | 8, 1800, 7158, 2, 2,
+        0xC0000000u, 1, 0x4400, "RAID10");
+    row("RAID 5 of three NVMe disks, default tags", "RAID5", 3, true, "RW", 0, 0, 1200, 7157, 1, 3,
+        0xC0000000u, 3, 0, "RAID5");
+    row("RAID 6 of four skipping initialise", "RAID6", 4, false, "RW", 0, 1, 1900, 7162, 1, 4,
+        0xC0000000u, 1, 0x1000, "RAID6");
+}
+
+void tst_planning::createReachesTheDrivers()
+{
+    QFETCH(QString, type);
+    QFETCH(int, disks);
+    QFETCH(bool, nvme);
+    QFETCH(QString, cache);
+    QFETCH(int, tagSize);
+    QFETCH(int, options);
+    QFETCH(int, size);
+    QFETCH(uint, driverType);
+    QFETCH(uint, first);
+    QFETCH(uint, second);
+    QFETCH(uint, cacheWord);
+    QFETCH(uint, tagCode);
+    QFETCH(uint, policy);
+    QFETCH(QString, shownType);
+
+    Lab lab(labModel(std::vector<std::uint64_t>(8, 1000), nvme ? kNvme : kHdd));
+    SK_Create c = request(type, firstDisks(disks), size);
+    c.name = QStringLiteral("Made %1").arg(type);
+    c.cache = cache;
+    c.cacheTagSize = tagSize;
+    c.skipInit = options & 1;
+    c.zeroCreate = options & 2;
+    c.leaveData = options & 4;
+    c.backgroundScan = options & 8;
+    QCOMPARE(lab.api->CreateArray(c, false), 1);
+
+    const auto sent = lab.endpoint->withCode(2);
+    QCOMPARE(sent.size(), std::size_t{1});
+    const RecordedRequest &r = sent[0];
+    QCOMPARE(r.u32(32), driverType);
+    QCOMPARE(r.u32(36), static_cast<uint>(disks));
+    QCOMPARE(r.u32(40), 0u); // no spares
+    QCOMPARE(r.u32(44), tagCode);
+    QCOMPARE(r.u32(48), cacheWord);
+    QCOMPARE(r.u32(52), policy);
+    QCOMPARE(r.u64(56), binaryOf(static_cast<std::uint64_t>(size)));
+    QCOMPARE(r.u32(72), first);
+    QCOMPARE(r.u32(76), second);
+    const QByteArray name = c.name.toLatin1();
+    QCOMPARE(QByteArray(reinterpret_cast<const char *>(r.bytes.data() + 92), name.size()), name);
+
+    // The planning read before it asked with the same shape and no cache or flags.
+    const auto asked = lab.endpoint->withCode(4109);
+    QVERIFY(!asked.empty());
+    QCOMPARE(asked.back().u32(36), driverType);
+    QCOMPARE(asked.back().u32(52), 0u);
+    QCOMPARE(asked.back().u32(56) & ~0x2000u, 0u);
+
+    lab.api->RefreshConfig();
+    const SK_ConfigArray *made = lab.arrayNamed(name.constData());
+    QVERIFY2(made, "the new array must be in the next read");
+    QCOMPARE(QString::fromLatin1(made->Type), shownType);
+    QCOMPARE(made->Capacity, binaryOf(static_cast<std::uint64_t>(size)) * kMiB);
+}
+
+// --- Transforms ---
+
+namespace {
+
+// Disks of 1000 MiB; a RAID 1 "Mirror" (route 1) over disks 1 and 2 on 500 MiB each.
+Model mirrorLab(int disks = 10)
+{
+    Model m = equalDisks(disks);
+    m.arrays.push_back(labArray(m, 1, "Mirror", code::TypeMirrorStripe, 1, 2, {1, 2}, 500));
+    return m;
+}
+
+} // namespace
+
+void tst_planning::transformVerdicts_data()
+{
+    QTest::addColumn<int>("arrayId");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QList<int>>("disks");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("query");
+    QTest::addColumn<int>("fault"); // 1 SMART error in the picture, 2 found by the driver
+    QTest::addColumn<int>("verdict");
+    QTest::addColumn<QString>("text"); // empty: a plain result, no verdict
+
+    auto row = [](const char *name, int id, const char *type, QList<int> disks, int size,
+                  bool query, int fault, int verdict, const char *text) {
+        QTest::newRow(name) << id << QString::fromLatin1(type) << disks << size << query << fault
+                            << verdict << QString::fromLatin1(text);
+    };
+    const QList<int> three = {1, 2, 3};
+    row("array 25 is never found, even when there (forced)", 25, "RAID5", three, 600, true, 0, -100,
+        "array not found");
+    row("array 0 is never found", 0, "RAID5", three, 600, true, 0, -100, "array not found");
+    row("an array that isn't there, before the size", 7, "RAID5", three, 50, false, 0, -100,
+        "array not found");
+    row("a commit of 99 MB", 1, "RAID5", three, 99, false, 0, -99, "size must be at least 100MB");
+    row("a RAID 5 without disks", 1, "RAID5", {}, 600, true, 0, -98, "no disks were selected");
+    row("a volume of nine disks", 1, "VOLUME", firstDisks(9), 600, true, 0, -91,
+        "VOLUME is limited to 8 drives");
+    row("two disks for RAIDable", 1, "RAIDABLE", {1, 2}, 600, true, 0, -90,
+        "--disk must be one for RAIDAble");
+    row("a RAID 0 of one disk", 1, "RAID0", {1}, 600, true, 0, -88,
+        "RAID0 requires at least 2 to 8 drives");
+    row("a RAID 1 of three disks", 1, "RAID1", three, 600, true, 0, -87, "RAID1 requires 2 drives");
+    row("a RAID 1N of two disks", 1, "RAID1N", {1, 2}, 600, true, 0, -86,
+        "RAID1n requires 3 or more drives");
+    row("a RAID 1N of nine disks", 1, "RAID1N", firstDisks(9), 600, true, 0, -85,
+        "RAID1n is limited to 8 drives");
+    row("a RAID 10 of five disks", 1, "RAID10", firstDisks(5), 600, true, 0, -84,
+        "RAID10 must have an even number of 4 to 8 disks");
+    row("a RAID 10N of five disks", 1, "RAID10N", firstDisks(5), 600, true, 0, -82,
+        "RAID10n requires a minimum of 6 disks");
+    row("a RAID 10N of six disks", 1, "RAID10N", firstDisks(6), 600, true, 0, -80,
+        "sub-member must be 2 or greater for RAID10n");
+    row("a RAID 5 of two disks", 1, "RAID5", {1, 2}, 600, true, 0, -79,
+        "RAID5 requires at least 3 drives");
+    row("a RAID 5 of nine disks", 1, "RAID5", firstDisks(9), 600, true, 0, -78,
+        "RAID5 is limited to 8 drives");
+    row("a RAID 6 of nine disks says 'at least 4'", 1, "RAID6", firstDisks(9), 600, true, 0, -76,
+        "RAID6 requires at least 4 drives");
+    row("a RAID 6 of three disks is a plain 0", 1, "RAID6", three, 600, true, 0, 0, "");
+    row("a RAID 50 is a plain 0", 1, "RAID50", firstDisks(6), 600, true, 0, 0, "");
+    row("a RAID 60 is a plain 0", 1, "RAID60", firstDisks(8), 600, true, 0, 0, "");
+    row("a tier is no transform type", 1, "RTIER", {1, 2}, 600, true, 0, -73,
+        "error, no RAID type specified");
+    row("a disk with a SMART error in the picture", 1, "RAID5", three, 600, true, 1, -72,
+        "a disk selected not present or valid");
+    row("the driver finds a SMART error itself", 1, "RAID5", three, 600, true, 2, -71,
+        "The transform failed because one of the drives is displaying SMART errors");
+    row("the driver refuses to drop a member", 1, "RAID0", {1, 3}, 600, true, 0, -69,
+        "error determining maximum possible size, check arguments");
+}
+
+void tst_planning::transformVerdicts()
+{
+    QFETCH(int, arrayId);
+    QFETCH(QString, type);
+    QFETCH(QList<int>, disks);
+    QFETCH(int, size);
+    QFETCH(bool, query);
+    QFETCH(int, fault);
+    QFETCH(int, verdict);
+    QFETCH(QString, text);
+
+    Model m = mirrorLab();
+    if (fault == 1)
+        m.disks[2].state = code::DiskSmartError;
+    if (arrayId == 25) // forced: the drivers number arrays up to 24
+        m.arrays.push_back(labArray(m, 25, "Far", code::TypeVolume, 1, 1, {9}, 100));
+    Lab lab(std::move(m));
+    if (arrayId == 25)
+        QVERIFY2(lab.api->GetArrayRecord(25), "array 25 must be in the picture");
+    if (fault == 2) {
+        lab.endpoint->armedCode = 4108;
+        lab.endpoint->armedStatus = SK_STS_DEVICE_SMART_ERROR;
+    }
+    const int result = lab.api->TransformArray(request(type, disks, size), arrayId, query);
+    QCOMPARE(result, verdict);
+    if (!text.isEmpty())
+        QCOMPARE(transformErrorList.at(result + 100), text + QLatin1Char('\n'));
+    QVERIFY2(lab.endpoint->withCode(8).empty(), "a verdict must not transform anything");
+}
+
+void tst_planning::transformRunsToCompletion_data()
+{
+    QTest::addColumn<uint>("sourceType");
+    QTest::addColumn<uint>("sourceFirst");
+    QTest::addColumn<uint>("sourceSecond");
+    QTest::addColumn<QString>("targetType");
+    QTest::addColumn<QList<int>>("disks");
+    QTest::addColumn<int>("expectedMiB");
+
+    auto row = [](const char *name, uint type, uint first, uint second, const char *target,
+                  QList<int> disks, int mib) {
+        QTest::newRow(name) << type << first << second << QString::fromLatin1(target) << disks
+                            << mib;
+    };
+    const uint mirror = code::TypeMirrorStripe;
+    row("RAID 1 to RAID 5 with a third disk", mirror, 1, 2, "RAID5", {1, 2, 3}, 1000);
+    row("RAID 1 to RAID 1N with a third disk", mirror, 1, 2, "RAID1N", {1, 2, 3}, 500);
+    row("RAID 1 to RAID 10 with two more disks", mirror, 1, 2, "RAID10", {1, 2, 3, 4}, 1000);
+    row("RAID 0 grows by a disk", mirror, 2, 1, "RAID0", {1, 2, 3}, 1500);
+    row("RAID 0 to RAID 5 with a third disk", mirror, 2, 1, "RAID5", {1, 2, 3}, 1000);
+    row("RAID 5 grows by a disk", code::TypeParity, 1, 3, "RAID5", {1, 2, 3, 4}, 1500);
+    row("RAID 5 to RAID 6 with a fourth disk", code::TypeParity, 1, 3, "RAID6", {1, 2, 3, 4}, 1000);
+    row("volume to RAID 1 with a second disk", code::TypeVolume, 1, 1, "RAID1", {1, 2}, 500);
+    row("volume of two to RAID 0", code::TypeVolume, 2, 1, "RAID0", {1, 2}, 1000);
+}
+
+void tst_planning::transformRunsToCompletion()
+{
+    QFETCH(uint, sourceType);
+    QFETCH(uint, sourceFirst);
+    QFETCH(uint, sourceSecond);
+    QFETCH(QString, targetType);
+    QFETCH(QList<int>, disks);
+    QFETCH(int, expectedMiB);
+
+    Model m = equalDisks(6);
+    std::vector<int> members;
+    for (uint i = 1; i <= sourceFirst * sourceSecond; ++i)
+        members.push_back(static_cast<int>(i));
+    m.arrays.push_back(
+        labArray(m, 1, "Source", sourceType, sourceFirst, sourceSecond, members, 500));
+    Lab lab(std::move(m));
+
+    SK_Create c = request(targetType, disks, 0);
+    const int max = lab.api->TransformArray(c, 1, true);
+    QCOMPARE(max, decimalOf(static_cast<std::uint64_t>(expectedMiB)));
+    c.size = max;
+    QCOMPARE(lab.api->TransformArray(c, 1, false), 1);
+    lab.api->RefreshConfig();
+    QVERIFY2(lab.api->ArrayHasTask(1), "the transform must run as a task");
+    QCOMPARE(QString::fromLatin1(lab.api->GetArrayRecord(1)->TransformType),
+             QStringLiteral("TRANSFORM"));
+
+    QVERIFY2(lab.runTaskToEnd(1), "the transform must end on the emulated clock");
+    const SK_ConfigArray *done = lab.api->GetArrayRecord(1);
+    QVERIFY(done);
+    QCOMPARE(QString::fromLatin1(done->Type), targetType);
+    QCOMPARE(done->Capacity, static_cast<std::uint64_t>(expectedMiB) * kMiB);
+    QCOMPARE(QString::fromLatin1(done->DisplayName), QStringLiteral("Source"));
+    QCOMPARE(done->FirstCount * done->SecondCount, disks.size());
+}
+
+void tst_planning::transformAboveTheMaximumIsRefused()
+{
+    Lab lab(mirrorLab());
+    SK_Create c = request(QStringLiteral("RAID5"), {1, 2, 3}, 0);
+    const int max = lab.api->TransformArray(c, 1, true);
+    QCOMPARE(max, decimalOf(1000));
+    c.size = max + 10;
+    QCOMPARE(lab.api->TransformArray(c, 1, false), 0);
+    QVERIFY2(lab.endpoint->withCode(8).empty(), "an oversized transform is not clamped");
+
+    // Asked at its maximum, the command carries the array's name and the new shape.
+    c.size = max;
+    QCOMPARE(lab.api->TransformArray(c, 1, false), 1);
+    const auto sent = lab.endpoint->withCode(8);
+    QCOMPARE(sent.size(), std::size_t{1});
+    QCOMPARE(sent[0].u32(32), 7157u);
+    QCOMPARE(sent[0].u32(52), 3u);
+    QCOMPARE(sent[0].u64(64), std::uint64_t{1000});
+    QCOMPARE(sent[0].u32(72), 1u);
+    QCOMPARE(sent[0].u32(76), 3u);
+}
+
+// --- Tiers and cached arrays ---
+
+namespace {
+
+// Hard disks 1 and 2 carry "Cold" (RAID 1, route 1, `coldMiB`), SSDs 3 and 4 "Hot"
+// (RAID 1, route 2, 300 MiB).
+Model tierLab(std::uint64_t coldMiB = 800, bool coldVolume = false, bool hotVolume = false)
+{
+    Model m = labModel({1000, 1000});
+    m.disks.push_back(labDisk(2, 1000, kSsd));
+    m.disks.push_back(labDisk(3, 1000, kSsd));
+    m.arrays.push_back(labArray(m, 1, "Cold", code::TypeMirrorStripe, 1, 2, {1, 2}, coldMiB));
+    m.arrays.push_back(labArray(m, 2, "Hot", code::TypeMirrorStripe, 1, 2, {3, 4}, 300));
+    if (coldVolume)
+        m.volumes.push_back(Volume{'E', {m.arrays[0].id}, {}, false, ""});
+    if (hotVolume)
+        m.volumes.push_back(Volume{'F', {m.arrays[1].id}, {}, false, ""});
+    return m;
+}
+
+SK_Tier tierRequest(const char *cache, quint32 cold = 1, quint32 hot = 2)
+{
+    SK_Tier t;
+    t.name = QStringLiteral("Paired");
+    t.cache = QString::fromLatin1(cache);
+    t.arrays[0] = cold;
+    t.arrays[1] = hot;
+    t.arrayCount = 2;
+    return t;
+}
+
+} // namespace
+
+void tst_planning::tiersOverTwoArrays_data()
+{
+    QTest::addColumn<QString>("cache");
+    QTest::addColumn<bool>("hotHasVolumes");
+    QTest::addColumn<int>("expectedMiB");
+    QTest::addColumn<uint>("policy");
+    QTest::addColumn<QString>("shownCache");
+
+    // A tier offers the room of both arrays; a cache only the cold array's.
+    QTest::newRow("tier without cache") << "NC" << false << 1100 << 0u << "NC";
+    QTest::newRow("read cached array") << "R" << false << 800 << 0u << "R";
+    QTest::newRow("write back cached array over a hot array with volumes")
+        << "RW" << true << 800 << 0x40000u << "RW";
+}
+
+void tst_planning::tiersOverTwoArrays()
+{
+    QFETCH(QString, cache);
+    QFETCH(bool, hotHasVolumes);
+    QFETCH(int, expectedMiB);
+    QFETCH(uint, policy);
+    QFETCH(QString, shownCache);
+
+    Lab lab(tierLab(800, false, hotHasVolumes));
+    QVERIFY(lab.api->ArrayCanBeColdTier(1));
+    QVERIFY(!lab.api->ArrayCanBeHotTier(1));
+    QVERIFY(lab.api->ArrayCanBeHotTier(2));
+    QVERIFY(!lab.api->ArrayCanBeColdTier(2));
+    QVERIFY(lab.api->ArrayIsBigger(1, 2));
+
+    SK_Tier t = tierRequest(cache.toLatin1().constData());
+    t.hotHasVolumes = hotHasVolumes;
+    QCOMPARE(lab.api->CreateTier(t, true), decimalOf(static_cast<std::uint64_t>(expectedMiB)));
+    QCOMPARE(lab.api->CreateTier(t, false), 1);
+
+    const auto sent = lab.endpoint->withCode(2);
+    QCOMPARE(sent.size(), std::size_t{1});
+    QCOMPARE(sent[0].u32(32), 7165u);
+    QCOMPARE(sent[0].u32(36), 2u);
+    QCOMPARE(sent[0].u32(48), SK_RaidApi::CacheWord(cache));
+    QCOMPARE(sent[0].u32(52), policy);
+    QCOMPARE(sent[0].u64(56), static_cast<std::uint64_t>(expectedMiB));
+    QCOMPARE(sent[0].u32(72), 1u);
+    QCOMPARE(sent[0].u32(76), 2u);
+
+    lab.api->RefreshConfig();
+    const SK_ConfigArray *paired = lab.arrayNamed("Paired");
+    QVERIFY2(paired, "the tier must be in the next read");
+    QCOMPARE(QString::fromLatin1(paired->Type), QStringLiteral("RAIDTIER"));
+    QCOMPARE(QString::fromLatin1(paired->Cache), shownCache);
+    QCOMPARE(paired->Capacity, static_cast<std::uint64_t>(expectedMiB) * kMiB);
+    // Its parts are tier parts now and can't be paired again.
+    QVERIFY(lab.api->ArrayIsTierPart(1));
+    QVERIFY(!lab.api->ArrayCanBeColdTier(1));
+    QVERIFY(!lab.api->ArrayCanBeHotTier(2));
+}
+
+void tst_planning::tierRefusals()
+{
+    struct Case
+    {
+        const char *why;
+        Model model;
+        SK_Tier tier;
+        bool query;
+    };
+    SK_Tier one = tierRequest("NC");
+    one.arrayCount = 1;
+    SK_Tier hotVolumesReadOnly = tierRequest("R");
+    hotVolumesReadOnly.hotHasVolumes = 1;
+    Model twelve = tierLab();
+    for (std::uint16_t r = 3; r <= 12; ++r)
+        twelve.arrays.push_back(labArray(twelve, r, "Small", code::TypeMirrorStripe, 1, 1, {1}, 10,
+                                         800 + (r - 3) * 10u));
+    const Case cases[] = {
+        {"more than eleven arrays", twelve, tierRequest("NC"), true},
+        {"one array only", tierLab(), one, true},
+        {"array id 0", tierLab(), tierRequest("NC", 0, 2), true},
+        {"array id 25", tierLab(), tierRequest("NC", 1, 25), true},
+        {"an unknown array", tierLab(), tierRequest("NC", 1, 9), true},
+        {"both arrays hold volumes", tierLab(800, true, true), tierRequest("NC"), true},
+        {"volumes on the hot array without write cache", tierLab(), hotVolumesReadOnly, true},
+        {"the driver refuses one array twice", tierLab(), tierRequest("NC", 1, 1), true},
+        {"a cache of 49 MiB is too small to commit", tierLab(49), tierRequest("R"), false},
+    };
+    for (const Case &c : cases) {
+        Lab lab(c.model);
+        QVERIFY2(lab.api->CreateTier(c.tier, c.query) == 0, c.why);
+        QVERIFY2(lab.endpoint->withCode(2).empty(), c.why);
+    }
+    // The too small cache still has a size to show.
+    Lab lab(tierLab(49));
+    QCOMPARE(lab.api->CreateTier(tierRequest("R"), true), decimalOf(49));
+}
+
+// --- The dialogs' own tests ---
+
+void tst_planning::namesMixingAndTrim()
+{
+    Model m = labModel({1000, 1000});
+    m.disks.push_back(labDisk(2, 1000, kSsd | (1u << 20)));
+    m.disks.push_back(labDisk(3, 1000, kSsd | (1u << 20) | (1u << 22)));
+    m.disks.push_back(labDisk(4, 1000, kNvme | (1u << 20) | (1u << 22)));
+    m.arrays.push_back(labArray(m, 1, "Data", code::TypeMirrorStripe, 1, 2, {1, 2}, 500));
+    m.arrays.push_back(labArray(m, 2, "NONE", code::TypeVolume, 1, 1, {3}, 500));
+    m.arrays.push_back(labArray(m, 3, "Fast", code::TypeMirrorStripe, 1, 2, {4, 5}, 500));
+    Lab lab(std::move(m));
+
+    QVERIFY(!lab.api->IsValidArrayName(QStringLiteral("Data")));
+    QVERIFY(lab.api->IsValidArrayName(QStringLiteral("data")));
+    QVERIFY(lab.api->IsValidArrayName(QStringLiteral("NONE")));
+    QVERIFY(lab.api->IsValidArrayName(QStringLiteral("a/b: c")));
+    for (QChar c : QStringLiteral("()^,.=|\"-[]"))
+        QVERIFY2(!lab.api->IsValidArrayName(QStringLiteral("x") + c), qPrintable(QString(c)));
+
+    auto mixing = [&](QList<int> disks) {
+        return lab.api->HasDriveMixing(request(QStringLiteral("RAID0"), disks));
+    };
+    QVERIFY(!mixing({}));
+    QVERIFY(!mixing({1, 2}));
+    QVERIFY(!mixing({3, 4}));
+    QVERIFY(mixing({3, 4, 5}));
+    QVERIFY(mixing({1, 3}));
+    QVERIFY(!mixing({1, 40})); // a disk not found counts as a hard disk
+    QVERIFY(!lab.api->DiskMixesWithArray(1, 2));
+    QVERIFY(lab.api->DiskMixesWithArray(1, 3));
+    QVERIFY(lab.api->DiskMixesWithArray(3, 1));
+
+    auto trim = [&](const char *type, QList<int> disks) {
+        return lab.api->ArrayCanTrim(request(QString::fromLatin1(type), disks));
+    };
+    QVERIFY(trim("RAID0", {}));
+    QVERIFY(trim("VOLUME", {3, 4}));
+    QVERIFY(!trim("RAID0", {1, 3}));
+    QVERIFY(!trim("RAID1", {3, 4}));
+    QVERIFY(trim("RAID10", {4, 5}));
+    QVERIFY(!trim("RAID5", {4, 5}));
+    QVERIFY(!lab.api->ArrayCanTrimExisting(1));
+    QVERIFY(lab.api->ArrayCanTrimExisting(2));
+    QVERIFY(lab.api->ArrayCanTrimExisting(3));
+}
+
+QTEST_GUILESS_MAIN(tst_planning)
+#include "tst_planning.moc"
