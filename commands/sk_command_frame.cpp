@@ -53,20 +53,6 @@ std::uint32_t putFound(const Record *record, std::uint32_t missing, std::uint8_t
     return SK_STS_SUCCESS;
 }
 
-using ResolveOne = std::uint32_t (*)(const SK_Core &, const char *, std::uint8_t *, std::size_t);
-
-std::uint32_t resolveList(ResolveOne resolve, const SK_Core &core, const SK_DeviceName *list,
-                          std::uint32_t count, std::uint8_t *request, std::size_t offset)
-{
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const std::uint32_t status =
-            resolve(core, list[i], request, offset + i * SK_REFERENCE_SIZE);
-        if (status != SK_STS_SUCCESS)
-            return status;
-    }
-    return SK_STS_SUCCESS;
-}
-
 } // namespace
 
 void SK_PutReference(std::uint8_t *request, std::size_t offset, std::uint64_t id,
@@ -97,12 +83,6 @@ std::uint32_t SK_CheckArrayName(const SK_CoreEntry *core, const char *name)
 std::uint32_t SK_CheckDiskName(const SK_CoreEntry *core, const char *name)
 {
     return checkName(core, name, SK_STS_INVALID_DEVICE_LIST);
-}
-
-std::uint32_t SK_CheckArrayList(const SK_CoreEntry *core, const SK_DeviceName *list,
-                                std::uint32_t count)
-{
-    return checkList(core, list, count, SK_STS_INVALID_LOGICAL_DEVICE);
 }
 
 std::uint32_t SK_CheckDiskList(const SK_CoreEntry *core, const SK_DeviceName *list,
@@ -147,16 +127,16 @@ std::uint32_t SK_ResolveDisk(const SK_Core &core, const char *name, std::uint8_t
     return putFound(SK_LookupDisk(core, name), SK_STS_PHYSICAL_DEVICE_NOT_FOUND, request, offset);
 }
 
-std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list,
-                                  std::uint32_t count, std::uint8_t *request, std::size_t offset)
-{
-    return resolveList(SK_ResolveArray, core, list, count, request, offset);
-}
-
 std::uint32_t SK_ResolveDiskList(const SK_Core &core, const SK_DeviceName *list,
                                  std::uint32_t count, std::uint8_t *request, std::size_t offset)
 {
-    return resolveList(SK_ResolveDisk, core, list, count, request, offset);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const std::uint32_t status =
+            SK_ResolveDisk(core, list[i], request, offset + i * SK_REFERENCE_SIZE);
+        if (status != SK_STS_SUCCESS)
+            return status;
+    }
+    return SK_STS_SUCCESS;
 }
 
 std::uint32_t SK_CheckArrayListArguments(const SK_CoreEntry *core, std::uint32_t count,

@@ -156,9 +156,7 @@ void SK_PutDiskReference(std::uint8_t *request, std::size_t offset,
 // for an array name and 63 for a disk name.
 std::uint32_t SK_CheckArrayName(const SK_CoreEntry *core, const char *name);
 std::uint32_t SK_CheckDiskName(const SK_CoreEntry *core, const char *name);
-// The same over a list; the first failure is returned.
-std::uint32_t SK_CheckArrayList(const SK_CoreEntry *core, const SK_DeviceName *list,
-                                std::uint32_t count);
+// The same over a list of disks; the first failure is returned.
 std::uint32_t SK_CheckDiskList(const SK_CoreEntry *core, const SK_DeviceName *list,
                                std::uint32_t count);
 
@@ -177,10 +175,8 @@ std::uint32_t SK_ResolveArray(const SK_Core &core, const char *name, std::uint8_
 std::uint32_t SK_ResolveDisk(const SK_Core &core, const char *name, std::uint8_t *request,
                              std::size_t offset);
 
-// Writes the references of `count` names from `offset`, 16 bytes apart. Returns 1 or
-// the status of the first name that can't be resolved.
-std::uint32_t SK_ResolveArrayList(const SK_Core &core, const SK_DeviceName *list,
-                                  std::uint32_t count, std::uint8_t *request, std::size_t offset);
+// Writes the references of `count` disk names from `offset`, 16 bytes apart. Returns 1
+// or the status of the first name that can't be resolved.
 std::uint32_t SK_ResolveDiskList(const SK_Core &core, const SK_DeviceName *list,
                                  std::uint32_t count, std::uint8_t *request, std::size_t offset);
 

@@ -154,9 +154,3 @@ void SK_EmulatedPlatform::sleep(std::uint32_t milliseconds)
 {
     m_endpoint->onSleep(milliseconds);
 }
-
-std::size_t SK_EmulatedPlatform::openHandleCount() const
-{
-    std::lock_guard<std::mutex> guard(m_mutex);
-    return m_handles.size();
-}

@@ -69,9 +69,6 @@ public:
     std::uint32_t lastError() const override;
     SK_SystemView &system() override { return m_endpoint->system(); }
 
-    SK_HostEndpoint &endpoint() const { return *m_endpoint; }
-    std::size_t openHandleCount() const;
-
 private:
     struct OpenDevice
     {
