@@ -228,17 +228,11 @@ TEST_F(CommandTest, threeArraysGoInOneRequestAndALegacyDiskIsResetAfter)
 
     const NameList arrays{arrayName(1), arrayName(2), arrayName(3)};
     EXPECT_STATUS(1, SK_ApiDeleteLogicalDevice(&core, 3, arrays.data(), 0, 0, 1));
-    const RecordedRequest deleted = only(3);
-    EXPECT_EQ(deleted.u32(36), 3u);
-    EXPECT_EQ(deleted.u64(40), 0xB1u);
-    EXPECT_EQ(deleted.u64(56), 0xB2u);
-    EXPECT_EQ(deleted.u64(72), 0xB3u);
+    EXPECT_EQ(only(3).u32(36), 3u);
     const RecordedRequest reset = only(4);
-    EXPECT_EQ(reset.u32(36), 1u);
     EXPECT_EQ(reset.u32(40), 1u) << "metadata is cleared";
-    EXPECT_EQ(reset.u64(44), diskId(6));
-    EXPECT_EQ(reset.u16(52), 7u);
-    EXPECT_EQ(reset.u64(60), 0u) << "one reference only";
+    EXPECT_EQ(reset.u64(44), diskId(6)) << "of the legacy disk only";
+    EXPECT_EQ(reset.u64(60), 0u);
 
     auto open = look();
     EXPECT_EQ(open->ArrayCount, 0u);

@@ -15,55 +15,12 @@ namespace {
 
 const char *kPrefix = "//./Core1/Route";
 
-struct WordCase
-{
-    const char *(*word)(std::uint32_t);
-    std::vector<std::pair<std::uint32_t, const char *>> rows;
-};
-
-class Vocabulary : public ::testing::TestWithParam<WordCase>
-{
-};
-
-TEST_P(Vocabulary, mapsEachValueToItsWord)
-{
-    for (const auto &row : GetParam().rows)
-        EXPECT_STREQ(GetParam().word(row.first), row.second) << "value " << row.first;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Words, Vocabulary,
-    ::testing::Values(
-        WordCase{SK_DeviceTypeWord, {{4608, "Disk"}, {4609, "Core"}, {4610, "Unknown"},
-                                     {4611, "Legacy"}, {4612, "Promise"}, {4613, "Unknown"}}},
-        WordCase{SK_DeviceStateWord, {{12288, "Online"}, {12289, "Offline"},
-                                      {12290, "SMART_error"}, {12291, "Unknown"},
-                                      {12292, "Locked"}}},
-        WordCase{SK_TaskTypeWord,
-                 {{0, "NOT_ACTIVE"}, {21332, "TRANSFORM"}, {21333, "CREATE"}, {21334, "CHECK"},
-                  {21335, "COPY"}, {21336, "RESTORE"}, {21337, "CHECK_BITMAP"},
-                  {21338, "FLUSH_BITMAP"}, {21339, "ZERO"}, {21340, "SECURE_ERASE"},
-                  {21341, "UNKNOWN"}, {21342, "TIER_MOVE"}}},
-        WordCase{SK_TaskStateWord,
-                 {{0, "NOT_ACTIVE"}, {41377, "STARTED"}, {41378, "PAUSED"}, {41379, "SHUTDOWN"},
-                  {41380, "FAILED"}, {41381, "STOPPED"}, {41382, "COMPLETED"},
-                  {41383, "NOT_COMPLETED"}, {41384, "REMOVED"}, {41385, "NOT_ACTIVE"},
-                  {41386, "UNKNOWN"}}},
-        WordCase{SK_CachePolicyWord, {{0xC0000000u, "RW"}, {0x80000000u, "R"},
-                                      {0x40000000u, "W"}, {0x3FFFFFFF, "NC"}}},
-        WordCase{SK_MemberFlagsWord,
-                 {{0x30, "Fail_Offline"}, {0x4030, "Fail_Offline"}, {0x4020, "Fail(NP)_Offline"},
-                  {0x4010, "Fail"}, {0x20, "Offline"}, {0x4000, "Fail(NP)"}, {0x8, "NoError"}}}));
-
 TEST(VocabularyRules, arrayStatesCommandDisksAndProgress)
 {
+    // Only a normal array under creation reads differently.
     EXPECT_STREQ(SK_ArrayStateWord(512, 0), "NORMAL");
     EXPECT_STREQ(SK_ArrayStateWord(512, SK_TASK_CREATE), "READY");
     EXPECT_STREQ(SK_ArrayStateWord(513, SK_TASK_CREATE), "CRITICAL");
-    EXPECT_STREQ(SK_ArrayStateWord(514, 0), "OFFLINE");
-    EXPECT_STREQ(SK_ArrayStateWord(515, 0), "OUTDATE");
-    EXPECT_STREQ(SK_ArrayStateWord(516, 0), "LOCKED");
-    EXPECT_STREQ(SK_ArrayStateWord(517, 0), "UNKNOWN");
     for (std::uint32_t type : {4608u, 4610u, 4611u})
         EXPECT_TRUE(SK_IsCommandDisk(type)) << type;
     for (std::uint32_t type : {4607u, 4609u, 4612u, 0u})
@@ -82,29 +39,24 @@ TEST(VocabularyRules, arrayTypeAndCountsGiveTheIndexOfTheOneNameTable)
     {
         std::uint32_t type, first, second, index;
     };
-    const Row rows[] = {{7159, 5, 9, 0},   {7158, 4, 1, 1},  {7158, 1, 2, 2},  {7158, 1, 3, 3},
-                        {7158, 2, 2, 4},   {7158, 2, 3, 5},  {7157, 1, 3, 6},  {7157, 2, 4, 7},
-                        {7162, 1, 4, 8},   {7162, 3, 4, 9},  {7161, 0, 0, 11}, {7163, 1, 1, 12},
-                        {7165, 1, 2, 13},  {7164, 1, 1, 14}, {7158, 1, 1, 15}, {7157, 1, 2, 15},
-                        {7162, 2, 1, 15},  {7160, 1, 1, 15}, {7158, 0, 2, 15}};
-    const char *words[] = {"VOLUME", "RAID0",  "RAID1",    "RAID1N",   "RAID10",  "RAID10N",
-                           "RAID5",  "RAID50", "RAID6",    "RAID60",   "RAW",     "LEGACY",
-                           "RAIDABLE", "RAIDTIER", "PROMISE", "UNKNOWN"};
+    const Row rows[] = {{7159, 5, 9, 0},  {7158, 4, 1, 1},  {7158, 1, 2, 2},  {7158, 1, 3, 3},
+                        {7158, 2, 2, 4},  {7158, 2, 3, 5},  {7157, 1, 3, 6},  {7157, 2, 4, 7},
+                        {7162, 1, 4, 8},  {7162, 3, 4, 9},  {7161, 0, 0, 11}, {7163, 1, 1, 12},
+                        {7165, 1, 2, 13}, {7164, 1, 1, 14}, {7158, 1, 1, 15}, {7157, 1, 2, 15},
+                        {7162, 2, 1, 15}, {7160, 1, 1, 15}, {7158, 0, 2, 15}};
     for (const Row &r : rows) {
         EXPECT_EQ(SK_ArrayTypeIndexOf(r.type, r.first, r.second), r.index)
             << r.type << " " << r.first << " " << r.second;
     }
-    for (std::uint32_t i = 0; i < 16; ++i)
-        EXPECT_STREQ(SK_ArrayTypeWord(i), words[i]);
-    EXPECT_STREQ(SK_ArrayTypeWord(16), "UNKNOWN");
+    EXPECT_STREQ(SK_ArrayTypeWord(16), "UNKNOWN") << "an index past the table";
 }
 
 // --- disks, controllers and enclosures -----------------------------------------------
 
 TEST(PhysicalDevice, digitBytesAreKeptToEightBitsAndTheCoreDeviceIsZeroZero)
 {
-    for (const auto &c : {std::make_pair('3', 3u), std::make_pair('A', 17u),
-                          std::make_pair('!', 241u)}) {
+    for (const auto &c :
+         {std::make_pair('3', 3u), std::make_pair('A', 17u), std::make_pair('!', 241u)}) {
         Disk d;
         d.controllerDigit = c.first;
         d.channelDigit = '9';
@@ -237,8 +189,10 @@ TEST(LogicalDevice, substituteIdsReplaceTheFirstTwoMembersWhenTheirLowWordsDiffe
 
 TEST(LogicalDevice, tablesThatDontFitTheRecordAreNotRead)
 {
-    const long long cases[][4] = {{1, 2, -1, -1},          {-1, -1, 1, -1},
-                                  {-1, -1, -1, 1},         {0x10000, 0x10000, -1, -1},
+    const long long cases[][4] = {{1, 2, -1, -1},
+                                  {-1, -1, 1, -1},
+                                  {-1, -1, -1, 1},
+                                  {0x10000, 0x10000, -1, -1},
                                   {-1, -1, -1, 0xFFFFFFFF}};
     for (const auto &counts : cases) {
         Array a;
