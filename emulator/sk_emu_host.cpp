@@ -10,6 +10,7 @@
 #include "emulator/sk_emu_wire.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 
@@ -538,18 +539,72 @@ bool Host::pullDisk(std::uint64_t diskId)
     return found;
 }
 
+namespace {
+
+void plugIn(Model &m, const Disk &disk)
+{
+    Disk inserted = disk;
+    inserted.attached = true;
+    inserted.state = code::DiskOffline; // online after the next rescan
+    inserted.awaitingRescan = true;
+    m.disks.push_back(inserted);
+    m.logEvent(event::NewDriveConnected);
+    m.logEvent(event::DeviceConnected, {inserted.controller, inserted.port});
+}
+
+std::string hexId(std::uint64_t id)
+{
+    char text[24];
+    std::snprintf(text, sizeof text, "0x%016llx", static_cast<unsigned long long>(id));
+    return text;
+}
+
+// What keeps `disk` from being plugged in, or nothing.
+std::string pluggingProblem(const Model &m, const Disk &disk)
+{
+    const std::string controller = "controller " + std::to_string(disk.controller);
+    if (disk.controller >= m.controllers.size())
+        return "there is no " + controller;
+    const std::uint32_t ports = m.controllers[disk.controller].ports;
+    if (disk.port >= ports)
+        return controller + " has no port " + std::to_string(disk.port) + " (its ports are 0 to " +
+               std::to_string(ports ? ports - 1 : 0) + ")";
+    for (const Disk &other : m.disks) {
+        if (!other.attached)
+            continue; // a pulled disk's port is free, though it stays listed
+        if (other.controller == disk.controller && other.port == disk.port)
+            return "port " + std::to_string(disk.port) + " of " + controller +
+                   " is taken by disk " + hexId(other.id);
+        if (other.serial == disk.serial)
+            return "disk " + hexId(other.id) + " has serial " + disk.serial + " already";
+    }
+    if (disk.id == 0 || m.findDisk(disk.id) || m.findArray(disk.id))
+        return "ID " + hexId(disk.id) + " is taken";
+    return {};
+}
+
+} // namespace
+
 void Host::insertDisk(const Disk &disk)
 {
     modify([&](Model &m) {
-        Disk inserted = disk;
-        inserted.attached = true;
-        inserted.state = code::DiskOffline; // online after the next rescan
-        inserted.awaitingRescan = true;
-        m.disks.push_back(inserted);
-        m.logEvent(event::NewDriveConnected);
-        m.logEvent(event::DeviceConnected, {inserted.controller, inserted.port});
+        plugIn(m, disk);
         return true;
     });
+}
+
+bool Host::insertDisk(const Disk &disk, std::string &why)
+{
+    bool done = false;
+    modify([&](Model &m) {
+        why = pluggingProblem(m, disk);
+        if (!why.empty())
+            return false;
+        plugIn(m, disk);
+        done = true;
+        return true;
+    });
+    return done;
 }
 
 bool Host::setSmartError(std::uint64_t diskId, bool on)

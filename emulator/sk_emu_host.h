@@ -104,6 +104,9 @@ public:
     bool pullDisk(std::uint64_t diskId);
     // A disk is plugged in; it comes online with the next rescan.
     void insertDisk(const Disk &disk);
+    // The same, when the controller has the port, the port is free and the disk's
+    // serial and ID are new; else nothing changes and `why` says what is wrong.
+    bool insertDisk(const Disk &disk, std::string &why);
     // The disk reports a SMART threshold crossing (or stops doing so).
     bool setSmartError(std::uint64_t diskId, bool on);
     // The next `count` requests are refused with `status`.

@@ -826,13 +826,66 @@ Json arrayJson(const Array &a)
     return j;
 }
 
+// Takes the parser's first complaint, without exceptions: the byte it stopped at and
+// its reason.
+class SyntaxErrorCatcher final : public nlohmann::json_sax<Json>
+{
+public:
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(number_integer_t) override { return true; }
+    bool number_unsigned(number_unsigned_t) override { return true; }
+    bool number_float(number_float_t, const string_t &) override { return true; }
+    bool string(string_t &) override { return true; }
+    bool binary(binary_t &) override { return true; }
+    bool start_object(std::size_t) override { return true; }
+    bool key(string_t &) override { return true; }
+    bool end_object() override { return true; }
+    bool start_array(std::size_t) override { return true; }
+    bool end_array() override { return true; }
+    bool parse_error(std::size_t position, const std::string &,
+                     const nlohmann::detail::exception &problem) override
+    {
+        byte = position;
+        reason = problem.what();
+        return false;
+    }
+
+    std::size_t byte = 0;
+    std::string reason;
+};
+
+// "line 3, column 14: syntax error while parsing object - ..." for text that is no JSON.
+// The parser counts the bytes it read; the last of them is the offending one.
+std::string jsonSyntaxError(const std::string &text)
+{
+    SyntaxErrorCatcher catcher;
+    Json::sax_parse(text, &catcher);
+    const std::size_t at = std::min(catcher.byte ? catcher.byte - 1 : 0, text.size());
+    std::size_t line = 1, lineStart = 0;
+    for (std::size_t i = 0; i < at; ++i) {
+        if (text[i] == '\n') {
+            ++line;
+            lineStart = i + 1;
+        }
+    }
+    // The reason without the library's own prefix and its own idea of the place.
+    std::string reason = catcher.reason;
+    if (const std::size_t colon = reason.find(": "); colon != std::string::npos)
+        reason = reason.substr(colon + 2);
+    if (reason.empty())
+        reason = "not valid JSON";
+    return "line " + std::to_string(line) + ", column " + std::to_string(at - lineStart + 1) +
+           ": " + reason;
+}
+
 } // namespace
 
 bool parseScenario(const std::string &text, Model &model, std::string &error)
 {
     const Json root = Json::parse(text, nullptr, false);
     if (root.is_discarded()) {
-        error = "not valid JSON";
+        error = jsonSyntaxError(text);
         return false;
     }
     Reader r;

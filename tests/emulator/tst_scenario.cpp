@@ -169,7 +169,9 @@ TEST(Scenario, structuralProblemsNameTheOffendingRecord)
     EXPECT_NE(error.find("overlaps"), std::string::npos) << error;
 
     EXPECT_FALSE(parseScenario("{\"format\": ", back, error));
-    EXPECT_EQ(error, "not valid JSON");
+    EXPECT_EQ(error.rfind("line 1, column 12: syntax error while parsing value", 0), 0u) << error;
+    EXPECT_FALSE(parseScenario("{\n  \"a\": [1,\n   ]}", back, error));
+    EXPECT_EQ(error.rfind("line 3, column 4: ", 0), 0u) << error;
     EXPECT_FALSE(parseScenario("", back, error));
 }
 
