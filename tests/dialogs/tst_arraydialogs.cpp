@@ -1,0 +1,437 @@
+// The create and transform dialogs against a fresh emulated host: the verdict shown
+// while the user picks, the capacity that follows the maximum, and commits that reach
+// the emulated drivers or are refused without a command.
+
+#include "dialogs/dialogs.h"
+#include "emulator/emulator.h"
+#include "support/emulated_host.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardItemModel>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTextDocument>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+using namespace sk_emu;
+
+// Disk ids of the default workstation: port + 1 on the one controller.
+constexpr int kHdd1 = 3, kSpare = 6, kNvme = 7;
+constexpr int kSystem = 1, kData = 2;
+// Type rows of the dialogs' combo.
+constexpr int kVolumeRow = 0, kRaid0Row = 1, kRaid1Row = 2, kRaid10Row = 3, kRaid5Row = 4;
+
+template <typename T>
+T *widget(QWidget *dialog, const char *name)
+{
+    T *found = dialog->findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("no widget %s", name);
+    return found;
+}
+
+// Unused NVMe disks like the workstation's own, on the next free ports.
+void addNvmeDisks(EmulatedHostScope &scope, int count)
+{
+    scope.host->modify([count](Model &m) {
+        const Disk model = m.disks.back();
+        for (int i = 0; i < count; ++i) {
+            Disk d = model;
+            d.id = model.id + 0x100 * std::uint64_t(i + 1);
+            d.port = model.port + std::uint32_t(i + 1);
+            d.serial = "S7HENJ0X30830" + std::to_string(i);
+            m.disks.push_back(d);
+        }
+        return true;
+    });
+}
+
+QTreeWidgetItem *rowOfDisk(QTreeWidget *list, int id)
+{
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        if (list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt() == id)
+            return list->topLevelItem(i);
+    }
+    return nullptr;
+}
+
+QList<int> listedDisks(QTreeWidget *list)
+{
+    QList<int> ids;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        ids << list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt();
+    return ids;
+}
+
+void checkDisks(QWidget *dialog, const QList<int> &ids, Qt::CheckState state = Qt::Checked)
+{
+    auto *list = widget<QTreeWidget>(dialog, "diskList");
+    for (int id : ids) {
+        QTreeWidgetItem *row = rowOfDisk(list, id);
+        if (!row)
+            qFatal("disk %d is not listed", id);
+        row->setCheckState(0, state);
+    }
+}
+
+QString plain(const QString &richText)
+{
+    QTextDocument document;
+    document.setHtml(richText);
+    return document.toPlainText().trimmed();
+}
+
+// Answers the next message box with `button` once it is up, and notes its text.
+void answerNextBox(QMessageBox::StandardButton button, QStringList *texts)
+{
+    QTimer::singleShot(0, [button, texts] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box) {
+            answerNextBox(button, texts);
+            return;
+        }
+        if (texts)
+            *texts << box->text();
+        QAbstractButton *answer = box->button(button);
+        (answer ? answer : box->buttons().constFirst())->click();
+    });
+}
+
+bool typeRowEnabled(QComboBox *types, int row)
+{
+    auto *model = qobject_cast<QStandardItemModel *>(types->model());
+    return model && model->item(row)->isEnabled();
+}
+
+const Array *arrayNamed(const Model &m, const std::string &name)
+{
+    for (const Array &a : m.arrays) {
+        if (a.name == name)
+            return &a;
+    }
+    return nullptr;
+}
+
+QPalette darkPalette()
+{
+    QPalette p;
+    p.setColor(QPalette::Window, QColor(45, 45, 48));
+    p.setColor(QPalette::WindowText, Qt::white);
+    p.setColor(QPalette::Base, QColor(30, 30, 30));
+    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
+    p.setColor(QPalette::Text, Qt::white);
+    p.setColor(QPalette::Button, QColor(55, 55, 58));
+    p.setColor(QPalette::ButtonText, Qt::white);
+    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
+    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
+    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
+    return p;
+}
+
+} // namespace
+
+class TestArrayDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void createListsDisksWithFreeSpace();
+    void createVerdictFollowsTheSelection_data();
+    void createVerdictFollowsTheSelection();
+    void createCapacityFollowsTheMaximumUntilTyped();
+    void createOptionRulesExcludeEachOther();
+    void createCommitReachesTheDrivers();
+    void createRefusesABadNameWithoutCommand();
+    void createStopsWhenDriveMixingIsDeclined();
+    void createRestoresItsWindowState();
+
+    void screenshots();
+
+private:
+    QTemporaryDir settingsDir;
+};
+
+void TestArrayDialogs::initTestCase()
+{
+    QVERIFY(settingsDir.isValid());
+    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
+    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+}
+
+void TestArrayDialogs::createListsDisksWithFreeSpace()
+{
+    EmulatedHostScope scope;
+    SK_CreateDialog dialog(QSize(16, 16));
+    auto *list = widget<QTreeWidget>(&dialog, "diskList");
+    const QList<int> listed = listedDisks(list);
+    QVERIFY2(listed.contains(kNvme), "the unused NVMe disk is offered");
+    QVERIFY2(!listed.contains(kHdd1),
+             "a member of the data array whose disk is all used has nothing to offer");
+    QCOMPARE(list->columnCount(), 12);
+    QCOMPARE(list->headerItem()->text(7), QStringLiteral("Trim"));
+    QVERIFY2(widget<QPushButton>(&dialog, "allNvmeButton")->isEnabled(), "an NVMe disk is listed");
+    QVERIFY2(!widget<QPushButton>(&dialog, "allHddButton")->isEnabled() || listed.contains(kSpare),
+             "the hard disk button follows the listed kinds");
+    auto *types = widget<QComboBox>(&dialog, "arrayTypeSel");
+    QCOMPARE(types->count(), 5);
+    QVERIFY(typeRowEnabled(types, kVolumeRow));
+    QCOMPARE(typeRowEnabled(types, kRaid0Row), listed.size() >= 2);
+    QCOMPARE(typeRowEnabled(types, kRaid10Row), listed.size() >= 4);
+}
+
+void TestArrayDialogs::createVerdictFollowsTheSelection_data()
+{
+    QTest::addColumn<int>("typeRow");
+    QTest::addColumn<int>("extraDisks");
+    QTest::addColumn<QList<int>>("disks");
+    QTest::addColumn<QString>("verdict");
+
+    QTest::newRow("nothing checked asks for disks")
+        << kVolumeRow << 0 << QList<int>{} << QStringLiteral("no disks were selected");
+    QTest::newRow("one unused disk makes a volume")
+        << kVolumeRow << 0 << QList<int>{kNvme} << QString();
+    QTest::newRow("a mirror of one disk is refused")
+        << kRaid1Row << 2 << QList<int>{kNvme} << QStringLiteral("RAID1 requires 2 drives");
+    QTest::newRow("a mirror of two disks is fine")
+        << kRaid1Row << 2 << QList<int>{kNvme, 8} << QString();
+    QTest::newRow("RAID 5 of two disks is refused")
+        << kRaid5Row << 2 << QList<int>{kNvme, 8}
+        << QStringLiteral("RAID5 requires at least 3 drives");
+    QTest::newRow("RAID 10 of three disks is refused")
+        << kRaid10Row << 3 << QList<int>{kNvme, 8, 9}
+        << QStringLiteral("RAID10 must have an even number of 4 to 8 disks");
+    QTest::newRow("RAID 10 of four disks is fine")
+        << kRaid10Row << 3 << QList<int>{kNvme, 8, 9, 10} << QString();
+}
+
+void TestArrayDialogs::createVerdictFollowsTheSelection()
+{
+    QFETCH(int, typeRow);
+    QFETCH(int, extraDisks);
+    QFETCH(QList<int>, disks);
+    QFETCH(QString, verdict);
+
+    EmulatedHostScope scope;
+    addNvmeDisks(scope, extraDisks);
+    SK_CreateDialog dialog(QSize(16, 16));
+    widget<QComboBox>(&dialog, "arrayTypeSel")->setCurrentIndex(typeRow);
+    checkDisks(&dialog, disks);
+
+    const QString label = plain(widget<QLabel>(&dialog, "createWarningLabel")->text());
+    auto *create = widget<QPushButton>(&dialog, "createButton");
+    if (verdict.isEmpty()) {
+        QVERIFY2(label.isEmpty(), qPrintable("no verdict expected, got: " + label));
+        QVERIFY2(create->isEnabled(), "a valid choice can be created");
+        QVERIFY2(widget<QLineEdit>(&dialog, "maxCapInput")->text().toInt() >= 100,
+                 "a valid choice offers room");
+    } else {
+        QCOMPARE(label, QStringLiteral("Invalid Configuration: ") + verdict);
+        QVERIFY2(!create->isEnabled(), "an invalid choice can't be created");
+        QCOMPARE(widget<QLineEdit>(&dialog, "maxCapInput")->text(), QStringLiteral("0"));
+    }
+}
+
+void TestArrayDialogs::createCapacityFollowsTheMaximumUntilTyped()
+{
+    EmulatedHostScope scope;
+    addNvmeDisks(scope, 2);
+    SK_CreateDialog dialog(QSize(16, 16));
+    auto *capacity = widget<QLineEdit>(&dialog, "currentCapInput");
+    auto *maximum = widget<QLineEdit>(&dialog, "maxCapInput");
+    QVERIFY2(capacity->text().isEmpty(), "nothing is possible before a disk is checked");
+
+    checkDisks(&dialog, {kNvme});
+    const int oneDisk = maximum->text().toInt();
+    QVERIFY(oneDisk > 1000);
+    QCOMPARE(capacity->text().toInt(), oneDisk);
+
+    widget<QComboBox>(&dialog, "arrayTypeSel")->setCurrentIndex(kRaid0Row);
+    checkDisks(&dialog, {8});
+    const int twoDisks = maximum->text().toInt();
+    QVERIFY2(twoDisks > oneDisk, "a stripe over two disks is larger than one disk");
+    QCOMPARE(capacity->text().toInt(), twoDisks);
+
+    QTest::keyClicks(capacity, QStringLiteral("x")); // refused by the validator
+    capacity->setText(QStringLiteral("5000"));
+    checkDisks(&dialog, {9});
+    QVERIFY(maximum->text().toInt() > twoDisks);
+    QCOMPARE(capacity->text(), QStringLiteral("5000"));
+    QVERIFY(widget<QPushButton>(&dialog, "createButton")->isEnabled());
+
+    capacity->setText(QString::number(maximum->text().toInt() + 1));
+    QCOMPARE(plain(widget<QLabel>(&dialog, "createWarningLabel")->text()),
+             QStringLiteral("Invalid Configuration: create size exceeds maximum possible size"));
+    QVERIFY(!widget<QPushButton>(&dialog, "createButton")->isEnabled());
+    QTest::mouseClick(widget<QPushButton>(&dialog, "setMaxCapButton"), Qt::LeftButton);
+    QCOMPARE(capacity->text(), maximum->text());
+    QVERIFY(widget<QPushButton>(&dialog, "createButton")->isEnabled());
+}
+
+void TestArrayDialogs::createOptionRulesExcludeEachOther()
+{
+    EmulatedHostScope scope;
+    SK_CreateDialog dialog(QSize(16, 16));
+    auto *skip = widget<QCheckBox>(&dialog, "skipInitCheckBox");
+    auto *leave = widget<QCheckBox>(&dialog, "leaveDataCheckBox");
+    auto *zero = widget<QCheckBox>(&dialog, "zeroCreateCheckBox");
+    auto *types = widget<QComboBox>(&dialog, "arrayTypeSel");
+    QVERIFY2(!skip->isEnabled(), "a volume has nothing to initialise");
+
+    types->setCurrentIndex(kRaid1Row);
+    QVERIFY(skip->isEnabled());
+    zero->setChecked(true);
+    QVERIFY2(!skip->isEnabled() && !leave->isEnabled(), "zeroing excludes both others");
+    zero->setChecked(false);
+    QVERIFY(skip->isEnabled() && leave->isEnabled());
+
+    skip->setChecked(true);
+    QVERIFY(!zero->isEnabled());
+    leave->setChecked(true);
+    skip->setChecked(false);
+    QVERIFY2(!zero->isEnabled(), "leaving data still excludes zeroing");
+    leave->setChecked(false);
+    QVERIFY(zero->isEnabled());
+
+    skip->setChecked(true);
+    types->setCurrentIndex(kRaid0Row);
+    QVERIFY2(!skip->isEnabled() && !skip->isChecked(), "a stripe clears the skip");
+}
+
+void TestArrayDialogs::createCommitReachesTheDrivers()
+{
+    EmulatedHostScope scope;
+    SK_CreateDialog dialog(QSize(16, 16));
+    checkDisks(&dialog, {kNvme});
+    widget<QLineEdit>(&dialog, "currentCapInput")->setText(QStringLiteral("250000"));
+    widget<QLineEdit>(&dialog, "arrayNameInput")->setText(QStringLiteral("Scratch"));
+    QTest::mouseClick(widget<QPushButton>(&dialog, "createButton"), Qt::LeftButton);
+
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    const Model m = scope.host->model();
+    const Array *made = arrayNamed(m, "Scratch");
+    QVERIFY2(made, "the drivers hold an array of the given name");
+    QCOMPARE(made->layout.type, code::TypeVolume);
+    QCOMPARE(made->layout.members.size(), std::size_t(1));
+    const double megabytes = double(made->layout.capacity) * 512 / 1000000;
+    QVERIFY2(qAbs(megabytes - 250000) < 2, qPrintable(QString::number(megabytes)));
+}
+
+void TestArrayDialogs::createRefusesABadNameWithoutCommand()
+{
+    EmulatedHostScope scope;
+    const std::uint64_t before = scope.host->model().generation;
+    SK_CreateDialog dialog(QSize(16, 16));
+    checkDisks(&dialog, {kNvme});
+    widget<QLineEdit>(&dialog, "arrayNameInput")->setText(QStringLiteral("Data"));
+    QStringList texts;
+    answerNextBox(QMessageBox::Ok, &texts);
+    QTest::mouseClick(widget<QPushButton>(&dialog, "createButton"), Qt::LeftButton);
+
+    QCOMPARE(texts.size(), 1);
+    QVERIFY2(texts.first().startsWith(QStringLiteral("Invalid name:")), qPrintable(texts.first()));
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(scope.host->model().arrays.size(), std::size_t(2));
+    QCOMPARE(scope.host->model().generation, before);
+}
+
+void TestArrayDialogs::createStopsWhenDriveMixingIsDeclined()
+{
+    EmulatedHostScope scope;
+    // An unused SATA SSD beside the unused NVMe disk.
+    scope.host->modify([](Model &m) {
+        Disk d = m.disks.front();
+        d.id += 0x1000;
+        d.port = m.disks.back().port + 1;
+        d.serial = "S6PUNX0T512999Z";
+        m.disks.push_back(d);
+        return true;
+    });
+    const std::uint64_t before = scope.host->model().generation;
+    SK_CreateDialog dialog(QSize(16, 16));
+    widget<QComboBox>(&dialog, "arrayTypeSel")->setCurrentIndex(kRaid0Row);
+    checkDisks(&dialog, {kNvme, 8});
+    QVERIFY2(widget<QPushButton>(&dialog, "createButton")->isEnabled(),
+             qPrintable(widget<QLabel>(&dialog, "createWarningLabel")->text()));
+    QStringList texts;
+    answerNextBox(QMessageBox::No, &texts);
+    QTest::mouseClick(widget<QPushButton>(&dialog, "createButton"), Qt::LeftButton);
+
+    QCOMPARE(texts.size(), 1);
+    QVERIFY2(texts.first().startsWith(QStringLiteral("Warning: drive mixing detected!")),
+             qPrintable(texts.first()));
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(scope.host->model().arrays.size(), std::size_t(2));
+    QCOMPARE(scope.host->model().generation, before);
+}
+
+void TestArrayDialogs::createRestoresItsWindowState()
+{
+    EmulatedHostScope scope;
+    {
+        SK_CreateDialog dialog(QSize(16, 16));
+        dialog.resize(700, 450);
+        widget<QTreeWidget>(&dialog, "diskList")->header()->resizeSection(9, 333);
+    }
+    SK_CreateDialog again(QSize(16, 16));
+    QCOMPARE(again.size(), QSize(700, 450));
+    QCOMPARE(widget<QTreeWidget>(&again, "diskList")->header()->sectionSize(9), 333);
+    QSettings().clear();
+}
+
+// Pictures of the dialogs in the dark and the light look, for a person to look at:
+// set SK_DIALOG_SHOTS to a folder.
+void TestArrayDialogs::screenshots()
+{
+    const QString folder = qEnvironmentVariable("SK_DIALOG_SHOTS");
+    if (folder.isEmpty())
+        QSKIP("SK_DIALOG_SHOTS is not set");
+    EmulatedHostScope scope;
+    addNvmeDisks(scope, 3);
+    const QPalette light = QApplication::palette();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const std::function<void(QWidget *, const QString &)> shoot = [&](QWidget *w,
+                                                                      const QString &name) {
+        for (const bool dark : {true, false}) {
+            QApplication::setPalette(dark ? darkPalette() : light);
+            w->show();
+            QVERIFY(QTest::qWaitForWindowExposed(w));
+            QTest::qWait(50);
+            const QString file =
+                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
+            QVERIFY2(w->grab().save(file), qPrintable(file));
+        }
+    };
+    SK_CreateDialog create(QSize(16, 16));
+    widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid10Row);
+    checkDisks(&create, {kNvme, 8, 9, 10});
+    shoot(&create, QStringLiteral("create"));
+    widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
+    checkDisks(&create, {9, 10}, Qt::Unchecked);
+    shoot(&create, QStringLiteral("create_invalid"));
+    QApplication::setPalette(light);
+    Q_UNUSED(kSystem);
+    Q_UNUSED(kData);
+}
+
+QTEST_MAIN(TestArrayDialogs)
+#include "tst_arraydialogs.moc"
