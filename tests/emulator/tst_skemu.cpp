@@ -1,0 +1,224 @@
+// skemu run in-process on a state file of its own: each fault lands in the file and
+// shows in the listings; each bad argument is refused with its reason and changes
+// nothing, byte for byte.
+
+#include "emulator/emulator.h"
+#include "emulator/sk_emu_tool.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <sstream>
+
+using namespace sk_emu;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string readAll(const fs::path &path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+class Skemu : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        std::random_device random;
+        std::error_code ec;
+        do
+            folder = fs::temp_directory_path(ec) / ("skemu-tool-" + std::to_string(random()));
+        while (!fs::create_directory(folder, ec));
+        ASSERT_EQ(run({"init"}), 0) << err;
+    }
+    void TearDown() override
+    {
+        std::error_code ec;
+        fs::remove_all(folder, ec);
+    }
+
+    int run(std::vector<std::string> args)
+    {
+        args.insert(args.begin(), {"--state", state().string()});
+        out.clear();
+        err.clear();
+        return skemuMain(args, out, err);
+    }
+    fs::path state() const { return folder / "lab.json"; }
+
+    fs::path folder;
+    std::string out, err;
+};
+
+struct Applied
+{
+    std::vector<std::string> args;
+    const char *listing; // the command whose output shows the change
+    const char *shown;
+    std::function<bool(const Model &)> stored; // or what the file holds afterwards
+};
+
+const Applied kApplied[] = {
+    {{"fail-disk", "0x5000c500e4b1d203"}, "events", "(01013) 0 2 0", nullptr},
+    {{"pull-disk", "0x5000c500e4b1f961"}, "events", "(01043) 0 3 0", nullptr},
+    {{"pull-disk", "0x5000c500e4b1f961"}, "disks", "port 3  pulled", nullptr},
+    {{"smart-error", "0x5000c500e4b2117c", "on"}, "events", "(01061) 0 4 0", nullptr},
+    {{"insert-disk", "7", "4TB", "ST4000NM000A-2HZ100", "WX20D1AA"},
+     "events",
+     "(01042) 0 7 0",
+     nullptr},
+    {{"insert-disk", "7", "960GB", "Fresh", "F1", "nvme"},
+     "show",
+     "Capacity (sectors)       1875000000",
+     nullptr},
+    {{"event", "1037", "5", "6"}, "events", "(01037) 5 6 0 0 0 0 0 0\n", nullptr},
+    {{"refuse", "2", "40"},
+     nullptr,
+     nullptr,
+     [](const Model &m) { return m.faults.refuseCount == 2 && m.faults.refuseStatus == 40; }},
+    {{"stale-writes", "3"},
+     nullptr,
+     nullptr,
+     [](const Model &m) { return m.faults.staleWrites == 3; }},
+    {{"fail-transfers", "0x10"},
+     nullptr,
+     nullptr,
+     [](const Model &m) { return m.faults.failedTransfers == 16; }},
+};
+
+TEST_F(Skemu, eachFaultLandsInTheFileAndShows)
+{
+    for (const Applied &row : kApplied) {
+        SCOPED_TRACE(row.args[0] + " " + row.args[1]);
+        ASSERT_EQ(run({"init", "--force"}), 0) << err;
+        ASSERT_EQ(run(row.args), 0) << err;
+        EXPECT_NE(out.find(": done, generation"), std::string::npos) << out;
+        if (row.listing) {
+            ASSERT_EQ(run({row.listing}), 0) << err;
+            EXPECT_NE(out.find(row.shown), std::string::npos) << out;
+        } else {
+            Model m;
+            std::string error;
+            ASSERT_TRUE(readStateFile(state().string(), m, error)) << error;
+            EXPECT_TRUE(row.stored(m));
+        }
+    }
+}
+
+struct Refused
+{
+    std::vector<std::string> args;
+    const char *reason;
+};
+
+const Refused kRefused[] = {
+    {{"insert-disk", "8", "4TB", "M", "S"},
+     "insert-disk: controller 0 has no port 8 (its ports are 0 to 7)"},
+    {{"insert-disk", "4", "4TB", "M", "S"},
+     "port 4 of controller 0 is taken by disk 0x5000c500e4b2117c"},
+    {{"insert-disk", "7", "7814037168", "M", "S"}, "size '7814037168' has no unit"},
+    {{"insert-disk", "7", "4XB", "M", "S"}, "unit 'XB' is none of s (sectors), KB"},
+    {{"insert-disk", "7", "1.5s", "M", "S"}, "sectors are whole"},
+    {{"insert-disk", "7", "2048s", "M", "S"}, "is too small"},
+    {{"insert-disk", "7", "4TB", "", "S"}, "the model is empty"},
+    {{"insert-disk", "7", "4TB", "M", ""}, "the serial is empty"},
+    {{"insert-disk", "7", "4TB", "M", "123456789012345678901"}, "has 21 characters, at most 20"},
+    {{"insert-disk", "7", "4TB", "M", "WX20B1HK"}, "has serial WX20B1HK already"},
+    {{"insert-disk", "7", "4TB", "M", "S", "tape"}, "kind 'tape' is neither ssd nor nvme"},
+    {{"insert-disk", "seven", "4TB", "M", "S"}, "port 'seven' is not a port number"},
+    {{"refuse", "two", "40"}, "refuse: count 'two' is not a number"},
+    {{"refuse", "2", "0x1FFFFFFFF"}, "status '0x1FFFFFFFF' is not a number from 0 to 4294967295"},
+    {{"stale-writes", "-1"}, "count '-1' is not a number"},
+    {{"fail-transfers", "1x"}, "count '1x' is not a number"},
+    {{"fail-transfers"}, "too few arguments"},
+    {{"stale-writes", "1", "2"}, "too many arguments: '2' is one too many"},
+    {{"event", "65536"}, "message '65536' is not a number from 0 to 65535"},
+    {{"event", "1037", "1", "x"}, "parameter 2 'x' is not a number"},
+    {{"fail-disk", "disk2"}, "disk ID 'disk2' is not a number"},
+    {{"fail-disk", "0x1234"}, "there is no disk 0x0000000000001234"},
+    {{"smart-error", "0x5000c500e4b2117c", "yes"}, "'yes' is neither on nor off"},
+    {{"init"}, "exists; use init --force to replace it"},
+    {{"show", "--all"}, "unknown option '--all'"},
+    {{"frobnicate"}, "unknown command 'frobnicate'"},
+};
+
+TEST_F(Skemu, badArgumentsAreRefusedWithTheReasonAndChangeNothing)
+{
+    ASSERT_EQ(run({"pull-disk", "0x5000c500e4b1f961"}), 0) << err;
+    const std::string before = readAll(state());
+    for (const Refused &row : kRefused) {
+        SCOPED_TRACE(row.args[0]);
+        EXPECT_NE(run(row.args), 0);
+        EXPECT_NE(err.find(row.reason), std::string::npos) << err;
+        EXPECT_EQ(out, "");
+        EXPECT_EQ(readAll(state()), before);
+    }
+    // Pulled once, a disk can't be pulled again, and its port is free for another.
+    EXPECT_EQ(run({"pull-disk", "0x5000c500e4b1f961"}), 1);
+    EXPECT_NE(err.find("is already pulled out"), std::string::npos) << err;
+    EXPECT_EQ(readAll(state()), before);
+    EXPECT_EQ(run({"insert-disk", "3", "4TB", "M", "S"}), 0) << err;
+}
+
+TEST_F(Skemu, malformedStateFileIsReportedWhereTheParserStopped)
+{
+    {
+        std::ofstream broken(state(), std::ios::binary | std::ios::trunc);
+        broken << "{\n  \"format\": \"StrataKeep emulated host\",\n  \"disks\": [1,,]\n}\n";
+    }
+    const std::string before = readAll(state());
+    for (const auto &args : {std::vector<std::string>{"show"}, {"fail-transfers", "1"}}) {
+        EXPECT_EQ(run(args), 1);
+        EXPECT_NE(err.find(state().string() + ": line 3, column 15: syntax error"),
+                  std::string::npos)
+            << err;
+        EXPECT_EQ(readAll(state()), before);
+    }
+}
+
+struct Size
+{
+    const char *text;
+    std::uint64_t sectors; // 0: refused
+};
+
+const Size kSizes[] = {
+    {"4TB", 7812500000},
+    {"960GB", 1875000000},
+    {"1.92tb", 3750000000},
+    {"7814037168s", 7814037168},
+    {"2049s", 2049},
+    {"2MB", 3906},
+    {"4", 0},
+    {"TB", 0},
+    {"4 TB", 0},
+    {"1.TB", 0},
+    {"1.2.3TB", 0},
+    {"1.0001KB", 0},
+    {"99999PB", 0},
+    {"-4TB", 0},
+    {"", 0},
+};
+
+TEST(SkemuSizes, decimalUnitsOrSectors)
+{
+    for (const Size &row : kSizes) {
+        std::uint64_t sectors = 0;
+        std::string why;
+        const bool read = parseSectors(row.text, sectors, why);
+        EXPECT_EQ(read, row.sectors != 0) << row.text << ": " << why;
+        if (read)
+            EXPECT_EQ(sectors, row.sectors) << row.text;
+        else
+            EXPECT_NE(why.find(std::string("'") + row.text + "'"), std::string::npos) << why;
+    }
+}
+
+} // namespace
