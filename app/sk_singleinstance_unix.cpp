@@ -26,8 +26,7 @@ SK_SingleInstance::SK_SingleInstance(const QString &name) : d(std::make_unique<P
 {
     d->lock = std::make_unique<QLockFile>(QDir(lockFolder()).filePath(name + ".lock"));
     d->lock->setStaleLockTime(0);
-    m_alreadyRunning = !d->lock->tryLock(0)
-                       && d->lock->error() == QLockFile::LockFailedError;
+    m_alreadyRunning = !d->lock->tryLock(0) && d->lock->error() == QLockFile::LockFailedError;
 }
 
 SK_SingleInstance::~SK_SingleInstance() = default;

@@ -89,10 +89,9 @@ int SK_RunConsole(QApplication &app)
     QString backendError;
     if (!SK_InstallBackend(backendError)) {
         QMessageBox::critical(nullptr, QCoreApplication::applicationName(),
-                              QCoreApplication::translate("main",
-                                                          "The emulated host could not be "
-                                                          "started:\n%1\n\nThe console "
-                                                          "runs without RAID drivers.")
+                              QCoreApplication::translate("main", "The emulated host could not be "
+                                                                  "started:\n%1\n\nThe console "
+                                                                  "runs without RAID drivers.")
                                   .arg(backendError));
     }
 

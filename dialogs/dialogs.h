@@ -2,4 +2,6 @@
 // The array, disk and maintenance dialogs the main window opens for one task each.
 
 #include "dialogs/sk_createdialog.h"
+#include "dialogs/sk_insertremovedialog.h"
+#include "dialogs/sk_treeitems.h"
 #include "service/service.h"

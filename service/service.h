@@ -1,6 +1,7 @@
 #pragma once
 // Array service: SK_RaidApi, the one class between the windows and the commands.
 
+#include "service/sk_apiworker.h"
 #include "service/sk_applog.h"
 #include "service/sk_raidapi.h"
 #include "service/sk_records.h"

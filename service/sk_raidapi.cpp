@@ -658,3 +658,26 @@ bool SK_RaidApi::DriverIsLoaded(const QString &file) const
         return QString::fromStdString(name).compare(file, Qt::CaseInsensitive) == 0;
     });
 }
+
+QString SK_RaidApi::ComputerName() const
+{
+    return QString::fromStdString(SK_CurrentPlatform().system().computerName());
+}
+
+QString SK_RaidApi::OsDiskNumber(int array) const
+{
+    const SK_ConfigArray *record = GetArrayRecord(array, true);
+    if (!record)
+        return QString();
+    std::uint32_t diskNumber = 0;
+    if (SK_CurrentPlatform().system().findOsDiskNumber(channels().cores[0].CoreNumber,
+                                                       static_cast<std::uint32_t>(record->Device),
+                                                       diskNumber) != SK_STS_SUCCESS)
+        return QString();
+    return QString::number(diskNumber);
+}
+
+bool SK_RaidApi::IsProcessRunning(const QString &imageName) const
+{
+    return SK_CurrentPlatform().system().isProcessRunning(imageName.toStdString());
+}

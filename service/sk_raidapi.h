@@ -92,6 +92,12 @@ public:
     bool DiskMixesWithArray(int array, int disk) const;
     bool IsAdministrator() const;
     bool DriverIsLoaded(const QString &file) const;
+    // The host's name, for the root of the array tree.
+    QString ComputerName() const;
+    // The operating system's disk number of the array as text; empty when it has none.
+    QString OsDiskNumber(int array) const;
+    // Whether the named notifier program runs on this host.
+    bool IsProcessRunning(const QString &imageName) const;
 
     // --- Commands: each refuses as its rules say and sends nothing then ---
     bool AssignGlobalSpare(int disk);
