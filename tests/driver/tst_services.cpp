@@ -1,11 +1,29 @@
 // Service control, registry parameters and file version rows over the system view.
 
-#include "config_fixture.h"
+#include "driver/driver.h"
+#include "support/scripted_system.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace {
 
-class Services : public ScriptedCoreTest
+// Each test on a fresh scripted host whose system view answers what the test sets.
+class Services : public ::testing::Test
 {
+protected:
+    void SetUp() override
+    {
+        host = std::make_shared<ScriptedHost>();
+        SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(host));
+    }
+    void TearDown() override { SK_InstallPlatform(nullptr); }
+
+    std::shared_ptr<ScriptedHost> host;
 };
 
 TEST_F(Services, controlPassesKnownActionsToTheSystemAndAnswersOneOrThree)
