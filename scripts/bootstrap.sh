@@ -49,6 +49,17 @@ install_deps() {
     if [ ${#missing[@]} -eq 0 ]; then
         return
     fi
+    # Without root and without sudo nothing can be installed: say what is missing and
+    # how to install it, rather than fail on a missing sudo.
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null 2>&1; then
+        {
+            echo "error: these packages are missing: ${missing[*]}"
+            echo "Installing them needs root, and sudo is not available. As root, run:"
+            echo "    apt-get update && apt-get install -y --no-install-recommends ${missing[*]}"
+            echo "then run this command again."
+        } >&2
+        exit 1
+    fi
     echo "Installing: ${missing[*]}"
     as_root apt-get update -qq
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
@@ -80,14 +91,20 @@ fuzz_briefly() {
     CC=clang CXX=clang++ configure_and_build build-fuzz -DSK_BUILD_FUZZERS=ON \
         -DSK_BUILD_GUI=OFF -DSK_BUILD_TESTS=OFF
     local seconds=${SK_FUZZ_SECONDS:-20}
+    # Crash, leak and timeout inputs land here, not in the working folder.
+    local artifacts="$root/build-fuzz/artifacts"
+    mkdir -p "$artifacts"
     for target in build-fuzz/fuzz/fuzz_*; do
-        [ -x "$target" ] || continue
+        if ! { [ -f "$target" ] && [ -x "$target" ]; }; then
+            continue
+        fi
         local name corpus work
         name=$(basename "$target")
         corpus="fuzz/corpus/${name#fuzz_}"
         work=$(mktemp -d)
         echo "== $name for ${seconds}s"
-        "$target" -max_total_time="$seconds" -print_final_stats=1 "$work" "$corpus"
+        "$target" -max_total_time="$seconds" -print_final_stats=1 \
+            -artifact_prefix="$artifacts/$name-" "$work" "$corpus"
         rm -rf "$work"
     done
 }
@@ -111,8 +128,22 @@ windows_build_and_test() {
     # first test's time limit.
     if [ ! -f "$WINEPREFIX/system.reg" ]; then
         echo "Creating the Wine prefix in $WINEPREFIX"
-        wine wineboot --init >/dev/null 2>&1 || true
+        local log="$root/build-windows/wineboot.log"
+        local booted=1
+        wine wineboot --init >"$log" 2>&1 || booted=0
         wineserver -w || true
+        # Wine writes system.reg when the prefix is complete; without it every test
+        # would fail later with far less telling errors.
+        if [ "$booted" -ne 1 ] || [ ! -f "$WINEPREFIX/system.reg" ]; then
+            {
+                echo "error: could not create the Wine prefix in $WINEPREFIX"
+                echo "(wine wineboot --init did not finish it; its output is in $log)."
+                tail -n 20 "$log"
+                echo "The Windows tests need a working Wine: check that the wine and wine64"
+                echo "packages are installed and that 'wine wineboot --init' runs for this user."
+            } >&2
+            return 1
+        fi
     fi
     local rc=0
     ctest --test-dir build-windows --output-on-failure --parallel "$jobs" || rc=$?
