@@ -3,5 +3,6 @@
 
 #include "dialogs/sk_createdialog.h"
 #include "dialogs/sk_insertremovedialog.h"
+#include "dialogs/sk_transformdialog.h"
 #include "dialogs/sk_treeitems.h"
 #include "service/service.h"

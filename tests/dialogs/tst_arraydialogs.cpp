@@ -21,6 +21,7 @@
 #include <QTemporaryDir>
 #include <QTextDocument>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QtTest>
 
 #include <functional>
@@ -30,8 +31,8 @@ namespace {
 using namespace sk_emu;
 
 // Disk ids of the default workstation: port + 1 on the one controller.
-constexpr int kHdd1 = 3, kSpare = 6, kNvme = 7;
-constexpr int kSystem = 1, kData = 2;
+constexpr int kSsdA = 1, kHdd1 = 3, kSpare = 6, kNvme = 7;
+constexpr int kData = 2;
 // Type rows of the dialogs' combo.
 constexpr int kVolumeRow = 0, kRaid0Row = 1, kRaid1Row = 2, kRaid10Row = 3, kRaid5Row = 4;
 
@@ -77,6 +78,16 @@ QList<int> listedDisks(QTreeWidget *list)
     return ids;
 }
 
+QList<int> checkedDisks(QTreeWidget *list)
+{
+    QList<int> ids;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        if (list->topLevelItem(i)->checkState(0) == Qt::Checked)
+            ids << list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt();
+    }
+    return ids;
+}
+
 void checkDisks(QWidget *dialog, const QList<int> &ids, Qt::CheckState state = Qt::Checked)
 {
     auto *list = widget<QTreeWidget>(dialog, "diskList");
@@ -109,6 +120,51 @@ void answerNextBox(QMessageBox::StandardButton button, QStringList *texts)
         QAbstractButton *answer = box->button(button);
         (answer ? answer : box->buttons().constFirst())->click();
     });
+}
+
+// Answers every message box that comes up while it lives with `button`, noting texts.
+class BoxAnswerer
+{
+public:
+    explicit BoxAnswerer(QMessageBox::StandardButton button)
+    {
+        QObject::connect(&timer, &QTimer::timeout, [this, button] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box || box->property("answered").toBool())
+                return;
+            box->setProperty("answered", true);
+            texts << box->text();
+            QAbstractButton *answer = box->button(button);
+            (answer ? answer : box->buttons().constFirst())->click();
+        });
+        timer.start(0);
+    }
+
+    QStringList texts;
+
+private:
+    QTimer timer;
+};
+
+// A hard disk like the data array's, unused, on the next free port: disk 8.
+void addHardDisk(EmulatedHostScope &scope)
+{
+    scope.host->modify([](Model &m) {
+        Disk d = m.disks[2];
+        d.id += 0x1000;
+        d.port = m.disks.back().port + 1;
+        d.serial = "WX20D9Q1";
+        m.disks.push_back(d);
+        return true;
+    });
+}
+
+QStringList viewLines(QTreeWidget *view)
+{
+    QStringList lines;
+    for (QTreeWidgetItemIterator it(view); *it; ++it)
+        lines << (*it)->text(0);
+    return lines;
 }
 
 bool typeRowEnabled(QComboBox *types, int row)
@@ -162,6 +218,12 @@ private slots:
     void createRefusesABadNameWithoutCommand();
     void createStopsWhenDriveMixingIsDeclined();
     void createRestoresItsWindowState();
+
+    void transformListsTheArraysOwnDisks();
+    void transformVerdictFollowsTheSelection();
+    void transformCantShrinkTheArray();
+    void transformCommitStartsATask();
+    void transformSeesTheArrayGone();
 
     void screenshots();
 
@@ -398,6 +460,106 @@ void TestArrayDialogs::createRestoresItsWindowState()
     QSettings().clear();
 }
 
+void TestArrayDialogs::transformListsTheArraysOwnDisks()
+{
+    EmulatedHostScope scope;
+    SK_TransformDialog dialog(kData, QSize(16, 16));
+    auto *list = widget<QTreeWidget>(&dialog, "diskList");
+    const QList<int> listed = listedDisks(list);
+    QVERIFY2(listed.contains(kHdd1) && listed.contains(kHdd1 + 2),
+             "the data array's own members are offered although they are full");
+    QVERIFY2(!listed.contains(kSsdA), "a full disk of another array is left out");
+    QVERIFY(listed.contains(kNvme));
+    QCOMPARE(list->columnCount(), 11);
+    QCOMPARE(viewLines(widget<QTreeWidget>(&dialog, "sourceArrayView")),
+             (QStringList{"Array 2 Data", "RAID5", "Disk 0 2", "Disk 0 3", "Disk 0 4"}));
+    QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
+    QVERIFY(widget<QPushButton>(&dialog, "sameButton")->isDefault());
+}
+
+void TestArrayDialogs::transformVerdictFollowsTheSelection()
+{
+    EmulatedHostScope scope;
+    SK_TransformDialog dialog(kData, QSize(16, 16));
+    auto *label = widget<QLabel>(&dialog, "transformWarningLabel");
+    QCOMPARE(plain(label->text()), QStringLiteral("Invalid Configuration: no disks were selected"));
+
+    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    QCOMPARE(widget<QComboBox>(&dialog, "arrayTypeSel")->currentIndex(), kRaid5Row);
+    QCOMPARE(checkedDisks(widget<QTreeWidget>(&dialog, "diskList")),
+             (QList<int>{kHdd1, kHdd1 + 1, kHdd1 + 2}));
+    QVERIFY2(!plain(label->text()).contains("drives"), qPrintable(label->text()));
+
+    widget<QComboBox>(&dialog, "arrayTypeSel")->setCurrentIndex(kRaid1Row);
+    QCOMPARE(plain(label->text()),
+             QStringLiteral("Invalid Configuration: RAID1 requires 2 drives"));
+    QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
+    QCOMPARE(viewLines(widget<QTreeWidget>(&dialog, "dstArrayView")).first(),
+             QStringLiteral("RAID 1  (Mirror)"));
+}
+
+void TestArrayDialogs::transformCantShrinkTheArray()
+{
+    EmulatedHostScope scope;
+    addHardDisk(scope);
+    SK_TransformDialog dialog(kData, QSize(16, 16));
+    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    checkDisks(&dialog, {8});
+    auto *capacity = widget<QLineEdit>(&dialog, "capInput");
+    const int current = widget<QLineEdit>(&dialog, "currentCapInput")->text().toInt();
+    QCOMPARE(capacity->text().toInt(), current);
+    QVERIFY2(widget<QLineEdit>(&dialog, "maxCapInput")->text().toInt() > current,
+             "a fourth disk adds room");
+    QVERIFY(widget<QPushButton>(&dialog, "commitButton")->isEnabled());
+
+    capacity->setText(QString::number(current - 1));
+    QVERIFY2(plain(widget<QLabel>(&dialog, "transformWarningLabel")->text()).isEmpty(),
+             "no verdict speaks of shrinking");
+    QVERIFY2(!widget<QPushButton>(&dialog, "commitButton")->isEnabled(), "but it can't commit");
+}
+
+void TestArrayDialogs::transformCommitStartsATask()
+{
+    EmulatedHostScope scope;
+    addHardDisk(scope);
+    SK_TransformDialog dialog(kData, QSize(16, 16));
+    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    checkDisks(&dialog, {8});
+    QTest::mouseClick(widget<QPushButton>(&dialog, "setCurrentCapMaxButton"), Qt::LeftButton);
+    const int wanted = widget<QLineEdit>(&dialog, "capInput")->text().toInt();
+    QCOMPARE(wanted, widget<QLineEdit>(&dialog, "maxCapInput")->text().toInt());
+
+    BoxAnswerer yes(QMessageBox::Yes);
+    QTest::mouseClick(widget<QPushButton>(&dialog, "commitButton"), Qt::LeftButton);
+    QCOMPARE(yes.texts.size(), 1);
+    QVERIFY2(yes.texts.first().contains("hot swappable"),
+             "the data array's hard disks are hot swap disks");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+
+    const Model m = scope.host->model();
+    const Array *data = arrayNamed(m, "Data");
+    QVERIFY(data);
+    QCOMPARE(data->task.type, code::TaskTransform);
+    QVERIFY2(data->target && data->target->members.size() == 4,
+             "the array is on its way to four disks");
+}
+
+void TestArrayDialogs::transformSeesTheArrayGone()
+{
+    EmulatedHostScope scope;
+    SK_TransformDialog dialog(kData, QSize(16, 16));
+    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    scope.host->modify([](Model &m) {
+        m.arrays.pop_back();
+        m.volumes.pop_back();
+        return true;
+    });
+    widget<QLineEdit>(&dialog, "capInput")->setText(QStringLiteral("1000"));
+    QCOMPARE(plain(widget<QLabel>(&dialog, "transformWarningLabel")->text()),
+             QStringLiteral("Invalid Configuration: array not found"));
+    QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
+}
+
 // Pictures of the dialogs in the dark and the light look, for a person to look at:
 // set SK_DIALOG_SHOTS to a folder.
 void TestArrayDialogs::screenshots()
@@ -428,9 +590,14 @@ void TestArrayDialogs::screenshots()
     widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
     checkDisks(&create, {9, 10}, Qt::Unchecked);
     shoot(&create, QStringLiteral("create_invalid"));
+    create.hide();
+
+    addHardDisk(scope);
+    SK_TransformDialog transform(kData, QSize(16, 16));
+    QTest::mouseClick(widget<QPushButton>(&transform, "sameButton"), Qt::LeftButton);
+    checkDisks(&transform, {11});
+    shoot(&transform, QStringLiteral("transform"));
     QApplication::setPalette(light);
-    Q_UNUSED(kSystem);
-    Q_UNUSED(kData);
 }
 
 QTEST_MAIN(TestArrayDialogs)
