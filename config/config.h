@@ -12,8 +12,3 @@
 #include "config/sk_logical_device.h"
 #include "config/sk_record_factory.h"
 #include "config/sk_vocabulary.h"
-
-// Every program that includes this layer gets real records in SK_Core's tables from
-// the start, before any core is built; the layer's own entry points install the
-// factory again, so order of static initialisation never matters.
-inline const std::uint32_t SK_ConfigRecordsInstalled = SK_InstallConfigRecords();

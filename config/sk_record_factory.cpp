@@ -19,8 +19,7 @@ public:
     }
 
     SK_C_LogicalDevice *makeArray(const std::uint8_t *record, std::uint32_t length,
-                                  const char *routePrefix,
-                                  std::uint32_t coreNumber) const override
+                                  const char *routePrefix, std::uint32_t coreNumber) const override
     {
         // An array whose tables don't fit its own record can't be trusted in any
         // field; its slot stays empty, as for a failed allocation.
@@ -57,3 +56,12 @@ std::uint32_t SK_InstallConfigRecords()
         SK_SetRecordFactory(factory);
     return SK_STS_SUCCESS;
 }
+
+namespace {
+
+// Commands build cores of their own without passing through an entry point of this
+// layer first, so a program that links the record classes installs them before main.
+// Nothing may depend on this running first: the entry points install the factory too.
+[[maybe_unused]] const std::uint32_t g_installedAtStart = SK_InstallConfigRecords();
+
+} // namespace
