@@ -20,7 +20,7 @@ packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools
     nlohmann-json3-dev googletest libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth
-    clang libclang-rt-dev
+    clang libclang-rt-dev clang-format
 )
 
 # The Windows build of the plain C++ half: MinGW-w64 with POSIX threads (std::mutex and
