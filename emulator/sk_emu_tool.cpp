@@ -4,6 +4,7 @@
 #include "emulator/sk_emu_wire.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>

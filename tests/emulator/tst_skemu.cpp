@@ -33,9 +33,13 @@ protected:
     {
         std::random_device random;
         std::error_code ec;
-        do
-            folder = fs::temp_directory_path(ec) / ("skemu-tool-" + std::to_string(random()));
-        while (!fs::create_directory(folder, ec));
+        for (int attempt = 0; attempt < 100 && folder.empty(); ++attempt) {
+            const fs::path drawn =
+                fs::temp_directory_path(ec) / ("skemu-tool-" + std::to_string(random()));
+            if (fs::create_directory(drawn, ec))
+                folder = drawn;
+        }
+        ASSERT_FALSE(folder.empty());
         ASSERT_EQ(run({"init"}), 0) << err;
     }
     void TearDown() override
