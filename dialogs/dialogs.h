@@ -1,8 +1,11 @@
 #pragma once
 // The array, disk and maintenance dialogs the main window opens for one task each.
 
+#include "dialogs/sk_aboutdialog.h"
+#include "dialogs/sk_controllerproperties.h"
 #include "dialogs/sk_createdialog.h"
 #include "dialogs/sk_insertremovedialog.h"
+#include "dialogs/sk_smartdiskdialog.h"
 #include "dialogs/sk_transformdialog.h"
 #include "dialogs/sk_treeitems.h"
 #include "service/service.h"

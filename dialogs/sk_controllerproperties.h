@@ -1,0 +1,28 @@
+#pragma once
+// The read-only list of controllers with their PCI identity and the disks behind them.
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class sk_ControllerProperties;
+}
+class SK_RaidApi;
+
+class sk_ControllerProperties : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit sk_ControllerProperties(QWidget *parent = nullptr);
+    ~sk_ControllerProperties() override;
+
+public slots:
+    void setupControllerList();
+    void on_okPushButton_clicked();
+
+private:
+    std::unique_ptr<SK_RaidApi> api;
+    std::unique_ptr<Ui::sk_ControllerProperties> ui;
+};
