@@ -69,7 +69,8 @@ constexpr std::uint32_t MemberNotPresent = 0x4000;
 // Disk feature bits.
 constexpr std::uint32_t FeatureWriteCache = 1u << 22;
 constexpr std::uint32_t FeatureReadAhead = 1u << 24;
-constexpr std::uint32_t FeatureSmartPolling = 1u << 26;
+// SMART polling sits in the low byte, where the console reads it, apart from the cache bits.
+constexpr std::uint32_t FeatureSmartPolling = 1u << 2;
 
 // Port type bits.
 constexpr std::uint32_t Port1_5G = 1u << 0;
