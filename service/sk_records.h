@@ -67,12 +67,12 @@ struct SK_InitDisks
 };
 
 enum diskManageCMD {
-    READ_CACHE_ON = 0,
-    READ_CACHE_OFF = 1,
-    WRITE_CACHE_ON = 2,
-    WRITE_CACHE_OFF = 3,
-    SMART_ON = 4,
-    SMART_OFF = 5,
+    readAheadEnable = 0,
+    readAheadDisable = 1,
+    writeCacheEnable = 2,
+    writeCacheDisable = 3,
+    smartEnable = 4,
+    smartDisable = 5,
 };
 
 struct SK_DiskManage

@@ -1,0 +1,130 @@
+#include "dialogs/sk_diskdialogparts.h"
+
+#include "service/service.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QSettings>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+namespace SK_DiskDialogParts {
+
+namespace {
+
+QString field(const char *text, std::size_t size)
+{
+    return QString::fromLatin1(text, static_cast<int>(qstrnlen(text, static_cast<uint>(size))));
+}
+
+template <std::size_t N>
+QString field(const char (&text)[N])
+{
+    return field(text, N);
+}
+
+} // namespace
+
+QString portLabel(const SK_ConfigDisk &disk)
+{
+    return QString::number(disk.ControllerNumber) + QLatin1Char(' ') +
+           QString::number(disk.Channel);
+}
+
+bool fillInitialiseList(SK_RaidApi &api, QTreeWidget *list, bool clearMetadata)
+{
+    // Both dialogs translate with the initialise dialog's words.
+    const auto tr = [](const char *text) {
+        return QCoreApplication::translate("SK_initDisksDialog", text);
+    };
+    list->setColumnCount(7);
+    list->setHeaderLabels({tr("Disk"), tr("State"), tr("Type"), tr("Uses"), tr("Free Space"),
+                           tr("Model Number"), tr("Serial Number")});
+    list->setRootIsDecorated(false);
+
+    bool anyUnknown = false;
+    for (int index = 0; index < api.GetDiskCount(); ++index) {
+        const SK_ConfigDisk *disk = api.GetDiskRecord(index);
+        if (!disk || field(disk->Type) == QLatin1String("Core"))
+            continue;
+        const int id = api.GetDiskIdByPort(disk->ControllerNumber, disk->Channel);
+        if (!api.DiskCanBeInitialized(id, clearMetadata))
+            continue;
+        if (!clearMetadata && api.DiskIsGlobalSpare(id))
+            continue;
+        const QString type = field(disk->Type);
+        const bool unknown = type == QLatin1String("Unknown");
+        anyUnknown |= unknown;
+
+        auto *row = new QTreeWidgetItem(list);
+        row->setText(0, portLabel(*disk));
+        row->setCheckState(0, Qt::Unchecked);
+        row->setData(0, Qt::UserRole, id);
+        row->setText(1, field(disk->State));
+        row->setText(2, unknown && !clearMetadata ? tr("New") : type);
+        row->setText(3, QString::number(api.DiskUseCount(id)));
+        row->setText(4, SK_RaidApi::CapacityText(static_cast<qint64>(disk->TotalFreeSpace)));
+        row->setText(5, field(disk->Model).trimmed());
+        row->setText(6, api.SerialText(index));
+    }
+    fitColumns(list, 6);
+    list->setSortingEnabled(true);
+    list->sortByColumn(0, Qt::AscendingOrder);
+    return anyUnknown;
+}
+
+SK_InitDisks tickedDisks(const QTreeWidget *list, quint8 clearMetadata)
+{
+    SK_InitDisks record;
+    record.clearMetadata = clearMetadata;
+    for (QTreeWidgetItemIterator it(const_cast<QTreeWidget *>(list)); *it; ++it) {
+        if ((*it)->checkState(0) == Qt::Unchecked)
+            continue;
+        if (record.diskCount >= SK_MAX_LIST_DISKS)
+            break;
+        record.disks[record.diskCount++] = (*it)->data(0, Qt::UserRole).toUInt();
+    }
+    return record;
+}
+
+bool anyTicked(const QTreeWidget *list)
+{
+    for (QTreeWidgetItemIterator it(const_cast<QTreeWidget *>(list)); *it; ++it) {
+        if ((*it)->checkState(0) != Qt::Unchecked)
+            return true;
+    }
+    return false;
+}
+
+void tickAll(QTreeWidget *list)
+{
+    for (QTreeWidgetItemIterator it(list); *it; ++it)
+        (*it)->setCheckState(0, Qt::Checked);
+}
+
+void fitColumns(QTreeWidget *list, int count)
+{
+    for (int column = 0; column < count; ++column) {
+        list->resizeColumnToContents(column);
+        list->setColumnWidth(column, list->columnWidth(column) + 5);
+    }
+}
+
+void restoreWindowState(QWidget *dialog, QTreeWidget *list, const char *geometryKey,
+                        const char *headerKey)
+{
+    QSettings settings;
+    dialog->restoreGeometry(
+        settings.value(QLatin1String(geometryKey), dialog->geometry()).toByteArray());
+    list->header()->restoreState(settings.value(QLatin1String(headerKey)).toByteArray());
+}
+
+void saveWindowState(const QWidget *dialog, const QTreeWidget *list, const char *geometryKey,
+                     const char *headerKey)
+{
+    QSettings settings;
+    settings.setValue(QLatin1String(geometryKey), dialog->saveGeometry());
+    settings.setValue(QLatin1String(headerKey), list->header()->saveState());
+}
+
+} // namespace SK_DiskDialogParts

@@ -1,0 +1,743 @@
+// The disk dialogs against a fresh emulated host: what each offers for the disks of the
+// workstation, commits that reach the emulated drivers, refusals that send nothing, and
+// the window state kept in the settings.
+
+#include "dialogs/dialogs.h"
+#include "emulator/emulator.h"
+#include "support/emulated_host.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+using namespace sk_emu;
+
+// Disk ids of the default workstation: SSDs 1-2 in the system mirror (array 1), HDDs
+// 3-5 in the data RAID 5 (array 2), the global spare 6 and the unused NVMe disk 7.
+constexpr int kSsd1 = 1, kHdd1 = 3, kHdd2 = 4, kSpare = 6, kNvme = 7;
+constexpr int kSystem = 1, kData = 2;
+// Driver events of an initialised and of a cleared disk.
+constexpr std::uint16_t kInitialisedEvent = 1029, kClearedEvent = 1181;
+
+template <typename T>
+T *widget(QWidget *dialog, const char *name)
+{
+    T *found = dialog->findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("no widget %s", name);
+    return found;
+}
+
+std::uint64_t diskIdOf(const Model &m, int id)
+{
+    return m.disks.at(static_cast<std::size_t>(id - 1)).id;
+}
+
+const Disk &diskOf(const Model &m, int id)
+{
+    return m.disks.at(static_cast<std::size_t>(id - 1));
+}
+
+Disk &diskOf(Model &m, int id)
+{
+    return m.disks.at(static_cast<std::size_t>(id - 1));
+}
+
+Array &arrayOf(Model &m, int route)
+{
+    Array *a = m.findArrayByRoute(static_cast<std::uint32_t>(route));
+    if (!a)
+        qFatal("no array %d", route);
+    return *a;
+}
+
+bool hasEvent(const Model &m, std::uint16_t message, std::uint32_t port)
+{
+    return std::any_of(m.events.begin(), m.events.end(),
+                       [&](const Event &e) { return e.message == message && e.params[1] == port; });
+}
+
+QTreeWidgetItem *rowOfDisk(QTreeWidget *list, int id)
+{
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        if (list->topLevelItem(i)->data(0, Qt::UserRole).toInt() == id)
+            return list->topLevelItem(i);
+    }
+    return nullptr;
+}
+
+QList<int> listedDisks(QWidget *dialog)
+{
+    auto *list = widget<QTreeWidget>(dialog, "diskListTree");
+    QList<int> ids;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        ids << list->topLevelItem(i)->data(0, Qt::UserRole).toInt();
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
+void tick(QWidget *dialog, const QList<int> &ids)
+{
+    auto *list = widget<QTreeWidget>(dialog, "diskListTree");
+    for (int id : ids) {
+        QTreeWidgetItem *row = rowOfDisk(list, id);
+        if (!row)
+            qFatal("disk %d is not listed", id);
+        row->setCheckState(0, Qt::Checked);
+    }
+}
+
+void click(QWidget *dialog, const char *button)
+{
+    QTest::mouseClick(widget<QAbstractButton>(dialog, button), Qt::LeftButton);
+}
+
+// Answers each message box that comes up with `button`, noting its text, until the
+// test ends the watch by going out of scope.
+class BoxAnswerer
+{
+public:
+    explicit BoxAnswerer(QMessageBox::StandardButton button) : answer(button)
+    {
+        QObject::connect(&timer, &QTimer::timeout, [this] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            texts << box->text();
+            QAbstractButton *b = box->button(answer);
+            (b ? b : box->buttons().constFirst())->click();
+        });
+        timer.start(0);
+    }
+    QStringList texts;
+
+private:
+    QMessageBox::StandardButton answer;
+    QTimer timer;
+};
+
+QPalette darkPalette()
+{
+    QPalette p;
+    p.setColor(QPalette::Window, QColor(45, 45, 48));
+    p.setColor(QPalette::WindowText, Qt::white);
+    p.setColor(QPalette::Base, QColor(30, 30, 30));
+    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
+    p.setColor(QPalette::Text, Qt::white);
+    p.setColor(QPalette::Button, QColor(55, 55, 58));
+    p.setColor(QPalette::ButtonText, Qt::white);
+    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
+    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
+    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
+    return p;
+}
+
+using Change = std::function<void(Model &)>;
+
+void applyChange(EmulatedHostScope &scope, const Change &change)
+{
+    if (change)
+        scope.host->modify([&change](Model &m) {
+            change(m);
+            return true;
+        });
+}
+
+// The global spare made a free disk again.
+void freeTheSpare(Model &m)
+{
+    diskOf(m, kSpare).globalSpare = false;
+}
+
+void makeDedicatedSpareOfData(Model &m)
+{
+    freeTheSpare(m);
+    arrayOf(m, kData).spares.push_back(diskIdOf(m, kSpare));
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+
+class TestDiskDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void optionsOfferActionsByTheDisk_data();
+    void optionsOfferActionsByTheDisk();
+    void optionsSpareCommandsReachTheDrivers();
+    void optionsDeclinedDriveMixingSendsNothing();
+    void optionsIdentifyLightsAndDarkensTheDisk();
+    void optionsRemovalOfAGlobalSparePreparesTheBay();
+    void optionsRemovalOfASystemDiskIsRefused();
+    void optionsOkWithNothingChosenAccepts();
+
+    void initialiseListsDisksThatMayBeInitialised_data();
+    void initialiseListsDisksThatMayBeInitialised();
+    void initialiseUnInitialisedButtonPicksNewDisks();
+    void initialiseCommitReachesTheDrivers();
+    void initialiseRefusedByTheDriversStaysOpen();
+
+    void clearMetadataListsPlainDisksAndSpares();
+    void clearMetadataButtonFollowsTheTickOrder();
+    void clearMetadataCommitClearsAndRescans();
+
+    void propertiesListShowsEachDisksSettings();
+    void propertiesCacheCommandSkipsNvmeAndKeepsTicks();
+    void propertiesOnlyNvmeTickedSendsNothing();
+    void propertiesNothingTickedSendsNothing();
+    void propertiesSmartPollingReachesNvme();
+
+    void windowStateIsRestored();
+    void screenshots();
+
+private:
+    QTemporaryDir settingsDir;
+};
+
+void TestDiskDialogs::initTestCase()
+{
+    QVERIFY(settingsDir.isValid());
+    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
+    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+}
+
+// --- Disk options ---
+
+void TestDiskDialogs::optionsOfferActionsByTheDisk_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<int>("disk");
+    QTest::addColumn<int>("array");
+    QTest::addColumn<bool>("dedicated");
+    QTest::addColumn<bool>("global");
+    QTest::addColumn<bool>("removal");
+    QTest::addColumn<QString>("dedicatedText");
+    QTest::addColumn<QString>("globalText");
+
+    const QString assignDed = QStringLiteral("Assign as Dedicated Spare");
+    const QString assignGlob = QStringLiteral("Assign as Global Spare");
+    QTest::newRow("an unused disk with no array selected offers only the global spare")
+        << Change() << kNvme << 0 << false << true << false << assignDed << assignGlob;
+    QTest::newRow("an unused disk too small for the data array is no dedicated spare of it")
+        << Change() << kNvme << kData << false << true << false << assignDed << assignGlob;
+    QTest::newRow("an unused disk that fits the system mirror may become its spare")
+        << Change() << kNvme << kSystem << true << true << false << assignDed << assignGlob;
+    QTest::newRow("a free hot-swap disk that fits the data array offers both and removal")
+        << Change(freeTheSpare) << kSpare << kData << true << true << true << assignDed
+        << assignGlob;
+    QTest::newRow("the global spare offers only its release")
+        << Change() << kSpare << kData << false << true << true << assignDed
+        << QStringLiteral("Remove as Global Spare");
+    QTest::newRow("a member offers no spare action")
+        << Change() << kHdd1 << kData << false << false << true << assignDed << assignGlob;
+    QTest::newRow("a dedicated spare of the selected array offers its release")
+        << Change(makeDedicatedSpareOfData) << kSpare << kData << true << false << true
+        << QStringLiteral("Remove as Dedicated Spare") << assignGlob;
+    QTest::newRow("a dedicated spare of an array with a task running can't be released")
+        << Change([](Model &m) {
+               makeDedicatedSpareOfData(m);
+               arrayOf(m, kData).task = Task{code::TaskCheck, code::TaskStarted, 1000};
+           })
+        << kSpare << kData << false << false << true << QStringLiteral("Remove as Dedicated Spare")
+        << assignGlob;
+    QTest::newRow("a dedicated spare of another array offers neither spare action")
+        << Change(makeDedicatedSpareOfData) << kSpare << kSystem << false << false << true
+        << assignDed << assignGlob;
+    QTest::newRow("a locked disk offers no spare action")
+        << Change([](Model &m) { diskOf(m, kNvme).state = code::DiskLocked; }) << kNvme << 0
+        << false << false << false << assignDed << assignGlob;
+    QTest::newRow("without elevation no disk can be prepared for removal")
+        << Change([](Model &m) { m.host.elevated = false; }) << kHdd1 << kData << false << false
+        << false << assignDed << assignGlob;
+}
+
+void TestDiskDialogs::optionsOfferActionsByTheDisk()
+{
+    QFETCH(Change, change);
+    QFETCH(int, disk);
+    QFETCH(int, array);
+    EmulatedHostScope scope;
+    applyChange(scope, change);
+    SK_diskSpareDialog dialog(QStringLiteral("0 %1").arg(disk - 1), QStringLiteral("Model"),
+                              quint32(disk), quint32(array));
+
+    QCOMPARE(widget<QLineEdit>(&dialog, "diskTextBox")->text(),
+             QStringLiteral("0 %1").arg(disk - 1));
+    QVERIFY(!widget<QLineEdit>(&dialog, "diskTextBox")->isEnabled());
+    QVERIFY(widget<QRadioButton>(&dialog, "identDisk")->isEnabled());
+    auto *dedicated = widget<QRadioButton>(&dialog, "assignDedSpare");
+    auto *global = widget<QRadioButton>(&dialog, "assignGlobSpare");
+    auto *removal = widget<QRadioButton>(&dialog, "removeDiskBtn");
+    QTEST(dedicated->isEnabled(), "dedicated");
+    QTEST(global->isEnabled(), "global");
+    QTEST(removal->isEnabled(), "removal");
+    QTEST(dedicated->text(), "dedicatedText");
+    QTEST(global->text(), "globalText");
+    QCOMPARE(removal->text(), QStringLiteral("Prepare to Remove"));
+}
+
+void TestDiskDialogs::optionsSpareCommandsReachTheDrivers()
+{
+    EmulatedHostScope scope;
+    {
+        SK_diskSpareDialog dialog(QStringLiteral("0 6"), QString(), kNvme, 0);
+        widget<QRadioButton>(&dialog, "assignGlobSpare")->setChecked(true);
+        click(&dialog, "okButton");
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+    QVERIFY2(diskOf(scope.host->model(), kNvme).globalSpare, "the NVMe disk is a global spare");
+    {
+        SK_diskSpareDialog dialog(QStringLiteral("0 5"), QString(), kSpare, kData);
+        widget<QRadioButton>(&dialog, "assignGlobSpare")->setChecked(true);
+        click(&dialog, "okButton");
+    }
+    QVERIFY2(!diskOf(scope.host->model(), kSpare).globalSpare, "the old spare is released");
+    {
+        SK_diskSpareDialog dialog(QStringLiteral("0 5"), QString(), kSpare, kData);
+        widget<QRadioButton>(&dialog, "assignDedSpare")->setChecked(true);
+        click(&dialog, "okButton");
+    }
+    Model m = scope.host->model();
+    QCOMPARE(arrayOf(m, kData).spares, std::vector<std::uint64_t>{diskIdOf(m, kSpare)});
+    {
+        SK_diskSpareDialog dialog(QStringLiteral("0 5"), QString(), kSpare, kData);
+        QCOMPARE(widget<QRadioButton>(&dialog, "assignDedSpare")->text(),
+                 QStringLiteral("Remove as Dedicated Spare"));
+        widget<QRadioButton>(&dialog, "assignDedSpare")->setChecked(true);
+        click(&dialog, "okButton");
+    }
+    m = scope.host->model();
+    QVERIFY2(arrayOf(m, kData).spares.empty(), "the dedicated spare is released");
+}
+
+void TestDiskDialogs::optionsDeclinedDriveMixingSendsNothing()
+{
+    EmulatedHostScope scope;
+    const std::uint64_t before = scope.host->model().generation;
+    SK_diskSpareDialog dialog(QStringLiteral("0 6"), QString(), kNvme, kSystem);
+    widget<QRadioButton>(&dialog, "assignDedSpare")->setChecked(true);
+    {
+        BoxAnswerer no(QMessageBox::No);
+        click(&dialog, "okButton");
+        QCOMPARE(no.texts.size(), 1);
+        QVERIFY2(no.texts.first().startsWith(QStringLiteral("Warning: drive mixing detected!")),
+                 qPrintable(no.texts.first()));
+    }
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(scope.host->model().generation, before);
+
+    BoxAnswerer yes(QMessageBox::Yes);
+    click(&dialog, "okButton");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    Model m = scope.host->model();
+    QCOMPARE(arrayOf(m, kSystem).spares, std::vector<std::uint64_t>{diskIdOf(m, kNvme)});
+}
+
+void TestDiskDialogs::optionsIdentifyLightsAndDarkensTheDisk()
+{
+    EmulatedHostScope scope;
+    SK_diskSpareDialog dialog(QStringLiteral("0 2"), QString(), kHdd1, 0);
+    widget<QRadioButton>(&dialog, "identDisk")->setChecked(true);
+    std::uint32_t ledWhileAsked = 0;
+    QTimer::singleShot(0, [&] { ledWhileAsked = diskOf(scope.host->model(), kHdd1).ledState; });
+    BoxAnswerer ok(QMessageBox::Ok);
+    click(&dialog, "okButton");
+    QCOMPARE(ok.texts, QStringList{QStringLiteral(
+                           "The LEDs representing the selected Disk are now lit. Click 'OK' to "
+                           "stop identifying.")});
+    QVERIFY2(ledWhileAsked != 0, "the disk is lit while the box is up");
+    QCOMPARE(diskOf(scope.host->model(), kHdd1).ledState, 0u);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void TestDiskDialogs::optionsRemovalOfAGlobalSparePreparesTheBay()
+{
+    EmulatedHostScope scope;
+    SK_diskSpareDialog dialog(QStringLiteral("0 5"), QStringLiteral("WDC WD40EFPX"), kSpare, kData);
+    widget<QRadioButton>(&dialog, "removeDiskBtn")->setChecked(true);
+    BoxAnswerer yes(QMessageBox::Yes);
+    click(&dialog, "okButton");
+    QCOMPARE(yes.texts.size(), 2);
+    QCOMPARE(
+        yes.texts.at(0),
+        QStringLiteral("You are about to remove WDC WD40EFPX (0 5), a device that is a Global "
+                       "Spare and may be part of an array. Are you sure you want to proceed?"));
+    QCOMPARE(yes.texts.at(1), QStringLiteral("The device was disconnected and can now be "
+                                             "physically removed from the system."));
+    QCOMPARE(diskOf(scope.host->model(), kSpare).ledState, 4u);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void TestDiskDialogs::optionsRemovalOfASystemDiskIsRefused()
+{
+    EmulatedHostScope scope;
+    scope.host->modify([](Model &m) {
+        diskOf(m, kSsd1).portType |= code::PortRemovable;
+        return true;
+    });
+    const std::uint64_t before = scope.host->model().generation;
+    SK_diskSpareDialog dialog(QStringLiteral("0 0"), QStringLiteral("Samsung SSD 870 EVO 1TB"),
+                              kSsd1, kSystem);
+    auto *removal = widget<QRadioButton>(&dialog, "removeDiskBtn");
+    QVERIFY2(removal->isEnabled(), "a hot-swap disk offers the removal");
+    removal->setChecked(true);
+    BoxAnswerer ok(QMessageBox::Ok);
+    click(&dialog, "okButton");
+    QCOMPARE(ok.texts, QStringList{QStringLiteral("Samsung SSD 870 EVO 1TB (0 0) device is part "
+                                                  "of the system array, removal is not "
+                                                  "supported.")});
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(scope.host->model().generation, before);
+}
+
+void TestDiskDialogs::optionsOkWithNothingChosenAccepts()
+{
+    EmulatedHostScope scope;
+    const std::uint64_t before = scope.host->model().generation;
+    SK_diskSpareDialog dialog(QStringLiteral("0 6"), QString(), kNvme, 0);
+    click(&dialog, "okButton");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(scope.host->model().generation, before);
+}
+
+// --- Initialise disks ---
+
+void TestDiskDialogs::initialiseListsDisksThatMayBeInitialised_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QList<int>>("listed");
+
+    QTest::newRow("on the workstation only the unused disk; members and the spare are not")
+        << Change() << QList<int>{kNvme};
+    QTest::newRow("a failed member of the data array is offered") << Change([](Model &m) {
+        Array &data = arrayOf(m, kData);
+        data.layout.members.at(1).flags |= code::MemberFailed;
+        data.state = code::ArrayCritical;
+    }) << QList<int>{kHdd2, kNvme};
+    QTest::newRow("a disk of a legacy array is offered unless the array holds the system")
+        << Change([](Model &m) {
+               Array &data = arrayOf(m, kData);
+               data.layout.type = code::TypeLegacy;
+           })
+        << QList<int>{kHdd1, kHdd2, 5, kNvme};
+}
+
+void TestDiskDialogs::initialiseListsDisksThatMayBeInitialised()
+{
+    QFETCH(Change, change);
+    EmulatedHostScope scope;
+    applyChange(scope, change);
+    SK_initDisksDialog dialog;
+    QTEST(listedDisks(&dialog), "listed");
+    auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
+    QCOMPARE(list->columnCount(), 7);
+    QCOMPARE(list->headerItem()->text(4), QStringLiteral("Free Space"));
+    QVERIFY2(!widget<QPushButton>(&dialog, "selectUnInitButton")->isEnabled(), "no disk is new");
+    QVERIFY2(!widget<QPushButton>(&dialog, "initSelectedButton")->isEnabled(), "nothing is ticked");
+}
+
+void TestDiskDialogs::initialiseUnInitialisedButtonPicksNewDisks()
+{
+    EmulatedHostScope scope;
+    scope.host->modify([](Model &m) {
+        diskOf(m, kNvme).type = code::DiskTypeUnknown;
+        arrayOf(m, kData).layout.members.at(1).flags |= code::MemberFailed;
+        return true;
+    });
+    SK_initDisksDialog dialog;
+    auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
+    QCOMPARE(rowOfDisk(list, kNvme)->text(2), QStringLiteral("New"));
+    QVERIFY(widget<QPushButton>(&dialog, "selectUnInitButton")->isEnabled());
+
+    tick(&dialog, {kHdd2});
+    QVERIFY(widget<QPushButton>(&dialog, "initSelectedButton")->isEnabled());
+    click(&dialog, "selectUnInitButton");
+    QCOMPARE(rowOfDisk(list, kNvme)->checkState(0), Qt::Checked);
+    QVERIFY2(rowOfDisk(list, kHdd2)->checkState(0) == Qt::Unchecked,
+             "the button replaces the selection");
+    click(&dialog, "selectAllButton");
+    QCOMPARE(rowOfDisk(list, kHdd2)->checkState(0), Qt::Checked);
+}
+
+void TestDiskDialogs::initialiseCommitReachesTheDrivers()
+{
+    EmulatedHostScope scope;
+    SK_initDisksDialog dialog;
+    tick(&dialog, {kNvme});
+    click(&dialog, "initSelectedButton");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    const Model m = scope.host->model();
+    QVERIFY2(hasEvent(m, kInitialisedEvent, diskOf(m, kNvme).port),
+             "the drivers initialised the NVMe disk");
+    QVERIFY2(!hasEvent(m, kClearedEvent, diskOf(m, kNvme).port), "without clearing");
+}
+
+void TestDiskDialogs::initialiseRefusedByTheDriversStaysOpen()
+{
+    EmulatedHostScope scope;
+    SK_initDisksDialog dialog;
+    tick(&dialog, {kNvme});
+    // Meanwhile the disk joined the data array: the drivers refuse to wipe it.
+    scope.host->modify([](Model &m) {
+        Member member;
+        member.disk = diskIdOf(m, kNvme);
+        member.size = 1000;
+        arrayOf(m, kData).layout.members.push_back(member);
+        return true;
+    });
+    const std::size_t events = scope.host->model().events.size();
+    click(&dialog, "initSelectedButton");
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(scope.host->model().events.size(), events);
+    QCOMPARE(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme)->checkState(0),
+             Qt::Checked);
+}
+
+// --- Clear metadata ---
+
+void TestDiskDialogs::clearMetadataListsPlainDisksAndSpares()
+{
+    EmulatedHostScope scope;
+    {
+        SK_ClearMetadataDialog dialog;
+        QCOMPARE(listedDisks(&dialog), (QList<int>{kSpare, kNvme}));
+        QVERIFY(!widget<QPushButton>(&dialog, "clearMetaButton")->isEnabled());
+    }
+    scope.host->modify([](Model &m) {
+        diskOf(m, kNvme).type = code::DiskTypeUnknown;
+        return true;
+    });
+    SK_ClearMetadataDialog dialog;
+    QVERIFY2(!listedDisks(&dialog).contains(kNvme), "a disk of another type is not listed");
+    SK_initDisksDialog initialise;
+    QVERIFY2(listedDisks(&initialise).contains(kNvme), "though it may be initialised");
+}
+
+void TestDiskDialogs::clearMetadataButtonFollowsTheTickOrder()
+{
+    EmulatedHostScope scope;
+    scope.host->modify([](Model &m) {
+        arrayOf(m, kData).layout.type = code::TypeLegacy;
+        return true;
+    });
+    SK_ClearMetadataDialog dialog;
+    auto *button = widget<QPushButton>(&dialog, "clearMetaButton");
+    auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
+    QCOMPARE(rowOfDisk(list, kHdd1)->text(3), QStringLiteral("1"));
+    tick(&dialog, {kHdd1});
+    QVERIFY2(!button->isEnabled(), "a disk in use first leaves the button off");
+    tick(&dialog, {kNvme});
+    QVERIFY(!button->isEnabled());
+    rowOfDisk(list, kHdd1)->setCheckState(0, Qt::Unchecked);
+    QVERIFY2(button->isEnabled(), "only free disks ticked");
+    tick(&dialog, {kHdd1});
+    QVERIFY2(button->isEnabled(), "a disk in use added later leaves it on");
+    rowOfDisk(list, kHdd1)->setCheckState(0, Qt::Unchecked);
+    rowOfDisk(list, kNvme)->setCheckState(0, Qt::Unchecked);
+    QVERIFY(!button->isEnabled());
+}
+
+void TestDiskDialogs::clearMetadataCommitClearsAndRescans()
+{
+    EmulatedHostScope scope;
+    SK_ClearMetadataDialog dialog;
+    tick(&dialog, {kSpare});
+    click(&dialog, "clearMetaButton");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    const Model m = scope.host->model();
+    QVERIFY2(hasEvent(m, kClearedEvent, diskOf(m, kSpare).port), "the metadata was cleared");
+    QVERIFY2(!diskOf(m, kSpare).globalSpare, "the spare's role went with its metadata");
+    SK_RaidApi api;
+    QVERIFY2(!api.DiskIsGlobalSpare(kSpare), "the picture after the rescan shows it");
+}
+
+// --- Disk properties ---
+
+void TestDiskDialogs::propertiesListShowsEachDisksSettings()
+{
+    EmulatedHostScope scope;
+    scope.host->modify([](Model &m) {
+        diskOf(m, kHdd1).features &= ~code::FeatureWriteCache;
+        diskOf(m, kHdd2).features &= ~(code::FeatureReadAhead | code::FeatureSmartPolling);
+        diskOf(m, kHdd2).firmware = "82.00A82";
+        diskOf(m, kHdd1).firmware = "FW_1";
+        return true;
+    });
+    SK_DiskProperites dialog;
+    QCOMPARE(listedDisks(&dialog), (QList<int>{1, 2, 3, 4, 5, 6, 7}));
+    auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
+    QCOMPARE(list->columnCount(), 10);
+    const auto texts = [list](int disk) {
+        QStringList t;
+        for (int c = 1; c <= 5; ++c)
+            t << rowOfDisk(list, disk)->text(c);
+        return t;
+    };
+    QCOMPARE(texts(kHdd1).mid(1, 4), (QStringList{"Disabled", "Enabled", "Enabled", "1"}));
+    QCOMPARE(texts(kHdd2).mid(1, 4), (QStringList{"Enabled", "Disabled", "Disabled", "1"}));
+    QCOMPARE(texts(kNvme).mid(1, 4), (QStringList{"Enabled", "Disabled", "Enabled", "0"}));
+    QCOMPARE(rowOfDisk(list, kHdd1)->text(9), QStringLiteral("FW 1"));
+    QCOMPARE(list->sortColumn(), 0);
+}
+
+void TestDiskDialogs::propertiesCacheCommandSkipsNvmeAndKeepsTicks()
+{
+    EmulatedHostScope scope;
+    SK_DiskProperites dialog;
+    tick(&dialog, {kHdd1, kNvme});
+    BoxAnswerer ok(QMessageBox::Ok);
+    click(&dialog, "diskWriteDisableButton");
+    QCOMPARE(ok.texts.size(), 1);
+    QVERIFY2(ok.texts.first().endsWith(
+                 QStringLiteral(" is a NVMe device and cannot change disk cache settings.")),
+             qPrintable(ok.texts.first()));
+    const Model m = scope.host->model();
+    QVERIFY2(!(diskOf(m, kHdd1).features & code::FeatureWriteCache), "the SATA disk changed");
+    QVERIFY2(diskOf(m, kNvme).features & code::FeatureWriteCache, "the NVMe disk did not");
+    auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
+    QCOMPARE(rowOfDisk(list, kHdd1)->text(2), QStringLiteral("Disabled"));
+    QCOMPARE(rowOfDisk(list, kHdd1)->checkState(0), Qt::Checked);
+    QCOMPARE(rowOfDisk(list, kNvme)->checkState(0), Qt::Checked);
+    QCOMPARE(rowOfDisk(list, kSsd1)->checkState(0), Qt::Unchecked);
+}
+
+void TestDiskDialogs::propertiesOnlyNvmeTickedSendsNothing()
+{
+    EmulatedHostScope scope;
+    const std::uint64_t before = scope.host->model().generation;
+    SK_DiskProperites dialog;
+    tick(&dialog, {kNvme});
+    QTreeWidgetItem *row = rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme);
+    BoxAnswerer ok(QMessageBox::Ok);
+    click(&dialog, "diskReadEnableButton");
+    QCOMPARE(ok.texts.size(), 1);
+    QCOMPARE(scope.host->model().generation, before);
+    QVERIFY2(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme) == row,
+             "the list is not redrawn");
+}
+
+void TestDiskDialogs::propertiesNothingTickedSendsNothing()
+{
+    EmulatedHostScope scope;
+    const std::uint64_t before = scope.host->model().generation;
+    const std::size_t events = scope.host->model().events.size();
+    SK_DiskProperites dialog;
+    QTreeWidgetItem *row = rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kHdd1);
+    for (const char *button :
+         {"diskWriteEnableButton", "diskWriteDisableButton", "diskReadEnableButton",
+          "diskReadDisableButton", "smartEnableButton", "smartDisableButton"})
+        click(&dialog, button);
+    QCOMPARE(scope.host->model().generation, before);
+    QCOMPARE(scope.host->model().events.size(), events);
+    QVERIFY(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kHdd1) == row);
+}
+
+void TestDiskDialogs::propertiesSmartPollingReachesNvme()
+{
+    EmulatedHostScope scope;
+    SK_DiskProperites dialog;
+    tick(&dialog, {kNvme});
+    click(&dialog, "smartDisableButton");
+    QVERIFY2(!(diskOf(scope.host->model(), kNvme).features & code::FeatureSmartPolling),
+             "SMART polling is switched for NVMe disks too");
+    QCOMPARE(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme)->text(4),
+             QStringLiteral("Disabled"));
+}
+
+// --- Window state ---
+
+void TestDiskDialogs::windowStateIsRestored()
+{
+    EmulatedHostScope scope;
+    const auto roundTrip = [](auto make, int column) {
+        {
+            auto dialog = make();
+            dialog->resize(777, 444);
+            widget<QTreeWidget>(dialog.get(), "diskListTree")->header()->resizeSection(column, 222);
+        }
+        auto again = make();
+        QCOMPARE(again->size(), QSize(777, 444));
+        QCOMPARE(widget<QTreeWidget>(again.get(), "diskListTree")->header()->sectionSize(column),
+                 222);
+    };
+    roundTrip([] { return std::make_unique<SK_initDisksDialog>(); }, 5);
+    roundTrip([] { return std::make_unique<SK_ClearMetadataDialog>(); }, 5);
+    roundTrip([] { return std::make_unique<SK_DiskProperites>(); }, 7);
+    const QSettings settings;
+    for (const char *key :
+         {"initDiskWindowGeometry", "initDiskListHeaderState", "clearMetaWindowGeometry",
+          "clearMetaListHeaderState", "diskPropWindowGeometry", "diskPropListHeaderState"})
+        QVERIFY2(settings.contains(QLatin1String(key)), key);
+    QSettings().clear();
+}
+
+// Pictures of the dialogs in the dark and the light look, for a person to look at:
+// set SK_DIALOG_SHOTS to a folder.
+void TestDiskDialogs::screenshots()
+{
+    const QString folder = qEnvironmentVariable("SK_DIALOG_SHOTS");
+    if (folder.isEmpty())
+        QSKIP("SK_DIALOG_SHOTS is not set");
+    EmulatedHostScope scope;
+    scope.host->modify([](Model &m) {
+        diskOf(m, kNvme).type = code::DiskTypeUnknown;
+        arrayOf(m, kData).layout.members.at(1).flags |= code::MemberFailed;
+        return true;
+    });
+    const QPalette light = QApplication::palette();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const auto shoot = [&](QWidget *w, const QString &name) {
+        for (const bool dark : {true, false}) {
+            QApplication::setPalette(dark ? darkPalette() : light);
+            w->show();
+            QVERIFY(QTest::qWaitForWindowExposed(w));
+            QTest::qWait(50);
+            const QString file =
+                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
+            QVERIFY2(w->grab().save(file), qPrintable(file));
+        }
+        w->hide();
+    };
+    SK_diskSpareDialog options(QStringLiteral("0 5"), QStringLiteral("WDC WD40EFPX"), kSpare,
+                               kData);
+    options.setWindowTitle(QStringLiteral("Options"));
+    shoot(&options, QStringLiteral("disk_options"));
+    SK_initDisksDialog initialise;
+    initialise.setWindowTitle(QStringLiteral("Initialize Disks"));
+    tick(&initialise, {kNvme});
+    shoot(&initialise, QStringLiteral("initialise_disks"));
+    SK_ClearMetadataDialog clear;
+    clear.setWindowTitle(QStringLiteral("Clear Metadata"));
+    shoot(&clear, QStringLiteral("clear_metadata"));
+    SK_DiskProperites properties;
+    properties.setWindowTitle(QStringLiteral("Properties"));
+    tick(&properties, {kHdd1, kHdd2});
+    shoot(&properties, QStringLiteral("disk_properties"));
+    QApplication::setPalette(light);
+    QSettings().clear();
+}
+
+QTEST_MAIN(TestDiskDialogs)
+#include "tst_diskdialogs.moc"
