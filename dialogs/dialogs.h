@@ -6,6 +6,7 @@
 #include "dialogs/sk_clearmetadatadialog.h"
 #include "dialogs/sk_controllerproperties.h"
 #include "dialogs/sk_createdialog.h"
+#include "dialogs/sk_deleteform.h"
 #include "dialogs/sk_diskproperites.h"
 #include "dialogs/sk_disksparedialog.h"
 #include "dialogs/sk_initdisksdialog.h"
