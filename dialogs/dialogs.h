@@ -13,6 +13,7 @@
 #include "dialogs/sk_insertremovedialog.h"
 #include "dialogs/sk_smartdiskdialog.h"
 #include "dialogs/sk_taskprioritydialog.h"
+#include "dialogs/sk_tieringdialog.h"
 #include "dialogs/sk_transformdialog.h"
 #include "dialogs/sk_treeitems.h"
 #include "service/service.h"
