@@ -26,6 +26,17 @@ namespace {
 
 constexpr int kArrayLimit = 12;
 
+// The main window's dialogs open the same way: modal, titled, no help button.
+int runDialog(QDialog *dialog, const QString &title)
+{
+    dialog->setModal(true);
+    dialog->setWindowTitle(title);
+    dialog->setWindowFlags(dialog->windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    const int result = dialog->exec();
+    delete dialog;
+    return result;
+}
+
 } // namespace
 
 bool SK_MainWindow::confirm(const QString &question)
@@ -46,12 +57,16 @@ void SK_MainWindow::createForm()
         QMessageBox::about(this, QCoreApplication::applicationName(),
                            tr("The total number of arrays is limited to ") +
                                QString::number(kArrayLimit) + QStringLiteral("."));
+    } else {
+        runDialog(new SK_CreateDialog(iconSize, this), tr("Create"));
     }
     menu_refresh();
 }
 
 void SK_MainWindow::transform_Form()
 {
+    runDialog(new SK_TransformDialog(static_cast<int>(selectedArray), iconSize, this),
+              tr("Transform"));
     menu_refresh();
 }
 
@@ -63,28 +78,38 @@ void SK_MainWindow::initTiering_Form()
         QMessageBox::about(this, QCoreApplication::applicationName(),
                            tr("The total number of arrays is limited to ") +
                                QString::number(kArrayLimit) + QStringLiteral("."));
+    } else {
+        runDialog(new SK_TieringDialog(this), tr("Caching"));
     }
     menu_refresh();
 }
 
 void SK_MainWindow::taskPriority_Form()
 {
+    const int id = static_cast<int>(selectedArray);
+    if (id >= 1 && raidApi->ArrayHasTask(id))
+        runDialog(new SK_TaskPriorityDialog(selectedArray, this), tr("Task Priority"));
     menu_refresh();
 }
 
 void SK_MainWindow::renameArray()
 {
+    if (selectedArray > 0)
+        runDialog(new SK_ArrayNameDialog(selectedArray, this), tr("Array Name"));
     menu_refresh();
 }
 
+// The one dialog that holds the timers back: its worker deletes arrays and re-reads
+// the configuration, which no refresh or statistics poll may read meanwhile.
 void SK_MainWindow::deleteMultipleArrays()
 {
     if (!rightsCheck())
         return;
     refreshTimer->stop();
     statsTimer->stop();
-    refreshTimer->start(refreshInterval);
+    runDialog(new SK_DeleteForm(this), tr("Delete"));
     statsTimer->start(statusInterval);
+    refreshTimer->start(refreshInterval);
     menu_refresh();
 }
 
@@ -342,38 +367,59 @@ void SK_MainWindow::prepareRemoveFinished(int returnCode)
 
 // --- Disk and view entries ---
 
-void SK_MainWindow::diskDoubleClicked(QTreeWidgetItem *, int)
+void SK_MainWindow::diskDoubleClicked(QTreeWidgetItem *item, int)
 {
+    if (item) {
+        auto *dialog =
+            new SK_diskSpareDialog(item->text(0), item->text(10),
+                                   item->data(0, Qt::UserRole).toUInt(), selectedArray, this);
+        runDialog(dialog, tr("Options"));
+    }
     menu_refresh();
 }
 
+// The disk list's context menu and the Options entry act on the one selected row.
 void SK_MainWindow::diskOptionsClicked()
 {
-    menu_refresh();
+    const QList<QTreeWidgetItem *> rows = diskList->selectedItems();
+    if (rows.size() != 1)
+        return;
+    diskDoubleClicked(rows.first(), 0);
 }
 
 void SK_MainWindow::initDisks_Form()
 {
+    if (!rightsCheck())
+        return;
+    if (runDialog(new SK_initDisksDialog(this), tr("Initialize Disks")) == QDialog::Accepted)
+        selectedArray = 0;
     menu_refresh();
 }
 
 void SK_MainWindow::clearMetadata_Form()
 {
+    if (!rightsCheck())
+        return;
+    if (runDialog(new SK_ClearMetadataDialog(this), tr("Clear Metadata")) == QDialog::Accepted)
+        selectedArray = 0;
     menu_refresh();
 }
 
 void SK_MainWindow::diskProperties_Form()
 {
+    runDialog(new SK_DiskProperites(this), tr("Properties"));
     menu_refresh();
 }
 
 void SK_MainWindow::smartDiskOverview_Form()
 {
+    runDialog(new SK_SmartDiskDialog(this), tr("S.M.A.R.T. Overview"));
     menu_refresh();
 }
 
 void SK_MainWindow::viewControllers_Form()
 {
+    runDialog(new sk_ControllerProperties(this), tr("Controllers"));
     menu_refresh();
 }
 

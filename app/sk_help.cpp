@@ -4,6 +4,8 @@
 #include "app/sk_help.h"
 
 #include "app/sk_mainwindow.h"
+#include "app/sk_version.h"
+#include "dialogs/dialogs.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -69,6 +71,12 @@ QString SK_CopyHelpDocument(const QString &resource, const QString &file)
 
 void SK_MainWindow::about()
 {
+    auto *dialog = new SK_AboutDialog(this, QString::fromLatin1(SK_VersionText));
+    dialog->setModal(true);
+    dialog->setWindowTitle(tr("About ") + QCoreApplication::applicationName());
+    dialog->setWindowFlags(dialog->windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    dialog->exec();
+    delete dialog;
     menu_refresh();
 }
 

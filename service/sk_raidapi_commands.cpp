@@ -241,6 +241,8 @@ bool SK_RaidApi::TaskControl(int array, const QString &action)
 // highest priority, 99 percent, and level 10 the lowest, 1 percent.
 bool SK_RaidApi::SetTaskPriority(int array, int level)
 {
+    // The task may have ended while the priority dialog was open.
+    RefreshConfig();
     const SK_ConfigArray *target = GetArrayRecord(array, true);
     if (!target || !ArrayHasTask(array))
         return false;

@@ -1,0 +1,350 @@
+// The real main window against a fresh emulated host: panes, enablement, the event
+// view with its files, the notice, the status bar and the driver and rights checks.
+
+#include "app/app.h"
+#include "support/emulated_host.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+constexpr int kSystem = 1, kData = 2;
+
+QAction *action(QWidget *window, const char *name)
+{
+    return window->findChild<QAction *>(QString::fromLatin1(name));
+}
+
+QTreeWidget *pane(QWidget *window, const char *name)
+{
+    return window->findChild<QTreeWidget *>(QString::fromLatin1(name));
+}
+
+// Answers the next modal box with its default button, remembering its text.
+void answerNextBox(QString *text, QMessageBox::StandardButton button = QMessageBox::Ok)
+{
+    QTimer::singleShot(0, [text, button] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box) {
+            answerNextBox(text, button);
+            return;
+        }
+        if (text)
+            *text = box->text();
+        if (QAbstractButton *b = box->button(button))
+            b->click();
+        else
+            box->done(button);
+    });
+}
+
+// Clicks the array row of the array list, as a user picking the array would.
+void pickArray(SK_MainWindow &window, int id)
+{
+    QTreeWidget *list = pane(&window, "arrayListTree");
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        if (list->topLevelItem(i)->data(0, Qt::UserRole).toInt() == id) {
+            window.arrayListSelectionChanged(list->topLevelItem(i), 0);
+            return;
+        }
+    }
+    QFAIL("array row not found");
+}
+
+} // namespace
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void panesShowTheConfiguration();
+    void enablementFollowsTheSelectedArray_data();
+    void enablementFollowsTheSelectedArray();
+    void withoutRightsDestructiveEntriesStayOff();
+    void newEventsGetATimeAndReachTheFiles();
+    void insertionOpensOneNotice();
+    void notifierKeepsTheConsoleQuiet();
+    void statusBarShowsTheDriversFigures();
+    void missingDriversAreReported();
+    void windowStateSurvivesARestart();
+
+private:
+    void waitForArrays(SK_MainWindow &window, int count);
+    QString eventsLogPath() const;
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<EmulatedHostScope> m_host;
+};
+
+void tst_MainWindow::initTestCase()
+{
+    Q_INIT_RESOURCE(resources);
+    QVERIFY(m_dir.isValid());
+    QStandardPaths::setTestModeEnabled(true);
+    qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
+    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
+    QCoreApplication::setOrganizationName(QStringLiteral("VOR-test"));
+}
+
+void tst_MainWindow::init()
+{
+    QSettings().clear();
+    QFile::remove(eventsLogPath());
+    m_host = std::make_unique<EmulatedHostScope>();
+}
+
+void tst_MainWindow::cleanup()
+{
+    m_host.reset();
+}
+
+QString tst_MainWindow::eventsLogPath() const
+{
+    return QStandardPaths::writableLocation(QStandardPaths::TempLocation) +
+           QStringLiteral("/StrataKeep/EventsLog.xml");
+}
+
+void tst_MainWindow::waitForArrays(SK_MainWindow &window, int count)
+{
+    QTRY_COMPARE(pane(&window, "arrayListTree")->topLevelItemCount(), count);
+}
+
+void tst_MainWindow::panesShowTheConfiguration()
+{
+    SK_MainWindow window;
+    waitForArrays(window, 2);
+    QTreeWidget *disks = pane(&window, "diskList");
+    QCOMPARE(disks->topLevelItemCount(), 7);
+    QCOMPARE(disks->headerItem()->text(8), QStringLiteral("Informed Hot Swap"));
+    QTreeWidget *arrays = pane(&window, "arrayListTree");
+    QTreeWidgetItem *data = arrays->findItems(QStringLiteral("Array 2"), Qt::MatchExactly).value(0);
+    QVERIFY(data);
+    QCOMPARE(data->text(3), QStringLiteral("D:"));
+    QCOMPARE(data->text(5), QStringLiteral("RAID5"));
+    QCOMPARE(data->text(2), QStringLiteral("No"));
+
+    QTreeWidget *tree = pane(&window, "arrayTree");
+    QTreeWidgetItem *root = tree->topLevelItem(0);
+    QVERIFY(root);
+    QCOMPARE(root->text(0), QStringLiteral("WS-ENG-0417"));
+    QCOMPARE(root->childCount(), 2);
+    QTreeWidgetItem *dataRow = root->child(1);
+    QVERIFY(dataRow && dataRow->text(0).startsWith(QStringLiteral("Array 2")));
+    QTreeWidgetItem *typeRow = dataRow->child(0);
+    QVERIFY(typeRow);
+    QCOMPARE(typeRow->text(0), QStringLiteral("RAID5"));
+    QCOMPARE(typeRow->childCount(), 3); // three member disks
+
+    // A failed member marks the array critical.
+    m_host->host->failDisk(0x5000C500E4B2117Cull);
+    window.menu_refresh();
+    auto arrayText = [&window] {
+        QTreeWidgetItem *top = pane(&window, "arrayTree")->topLevelItem(0);
+        return top && top->child(1) ? top->child(1)->text(0) : QString();
+    };
+    QTRY_VERIFY(arrayText().contains(QStringLiteral("CRITICAL")));
+}
+
+void tst_MainWindow::enablementFollowsTheSelectedArray_data()
+{
+    QTest::addColumn<int>("array");
+    QTest::addColumn<bool>("running");
+    QTest::addColumn<QStringList>("enabled");
+    QTest::addColumn<QStringList>("disabled");
+
+    QTest::newRow("a quiet data array")
+        << kData << false
+        << QStringList{"transformAct",     "nameAct",   "hideAct",        "identifyAct",
+                       "prepareRemoveAct", "deleteAct", "secureEraseAct", "consistencyStartAct"}
+        << QStringList{"resumeAct", "pauseAct", "removeTaskAct", "consistencyStopAct"};
+    QTest::newRow("the system array can't be deleted or hidden")
+        << kSystem << false << QStringList{"transformAct", "nameAct"}
+        << QStringList{"deleteAct", "hideAct", "prepareRemoveAct", "secureEraseAct"};
+    QTest::newRow("a running check offers its stop and the task entries")
+        << kData << true
+        << QStringList{"consistencyStopAct", "pauseAct", "removeTaskAct", "identifyAct",
+                       "deleteAct"}
+        << QStringList{"transformAct", "consistencyStartAct", "resumeAct", "nameAct"};
+}
+
+void tst_MainWindow::enablementFollowsTheSelectedArray()
+{
+    QFETCH(int, array);
+    QFETCH(bool, running);
+    QFETCH(QStringList, enabled);
+    QFETCH(QStringList, disabled);
+    SK_MainWindow window;
+    waitForArrays(window, 2);
+    if (running) {
+        QVERIFY(window.api()->CheckArray(array));
+        window.menu_refresh();
+        waitForArrays(window, 2);
+    }
+    pickArray(window, array);
+    QCOMPARE(window.currentArray(), quint32(array));
+    for (const QString &name : enabled)
+        QVERIFY2(action(&window, name.toLatin1())->isEnabled(), qPrintable(name + " is off"));
+    for (const QString &name : disabled)
+        QVERIFY2(!action(&window, name.toLatin1())->isEnabled(), qPrintable(name + " is on"));
+}
+
+void tst_MainWindow::withoutRightsDestructiveEntriesStayOff()
+{
+    m_host->host->modify([](sk_emu::Model &m) {
+        m.host.elevated = false;
+        return false;
+    });
+    QString rights;
+    answerNextBox(&rights);
+    SK_MainWindow window;
+    QVERIFY(rights.contains(QStringLiteral("Please run application as Administrator.")));
+    waitForArrays(window, 2);
+    pickArray(window, kData);
+    for (const char *name :
+         {"deleteAct", "secureEraseAct", "prepareRemoveAct", "hideAct", "deleteMultipleAct"})
+        QVERIFY2(!action(&window, name)->isEnabled(), name);
+    QVERIFY(action(&window, "transformAct")->isEnabled());
+    QVERIFY(action(&window, "nameAct")->isEnabled());
+}
+
+void tst_MainWindow::newEventsGetATimeAndReachTheFiles()
+{
+    SK_MainWindow window;
+    QTreeWidget *events = pane(&window, "eventList");
+    const int before = events->topLevelItemCount();
+    QVERIFY(before > 0);
+    QCOMPARE(events->topLevelItem(0)->text(1), QStringLiteral("   --   "));
+
+    m_host->host->injectEvent(1012, {});
+    window.menu_refresh();
+    QCOMPARE(events->topLevelItemCount(), before + 1);
+    QTreeWidgetItem *newest = nullptr;
+    for (int i = 0; i < events->topLevelItemCount(); ++i) {
+        if (events->topLevelItem(i)->text(2) == QLatin1String("1012") &&
+            events->topLevelItem(i)->text(1) != QLatin1String("   --   "))
+            newest = events->topLevelItem(i);
+    }
+    QVERIFY2(newest, "the new event has no time");
+
+    QFile xml(eventsLogPath());
+    QVERIFY(xml.open(QIODevice::ReadOnly));
+    const QByteArray text = xml.readAll();
+    QVERIFY(text.startsWith("<?xml"));
+    QVERIFY(text.contains("<Code>1012</Code>"));
+    QVERIFY(text.trimmed().endsWith("</Logs>"));
+
+    // A second run finds the time the first one gave the event.
+    const QString stamp = newest->text(1);
+    SK_MainWindow again;
+    bool found = false;
+    QTreeWidget *later = pane(&again, "eventList");
+    for (int i = 0; i < later->topLevelItemCount(); ++i)
+        found |= later->topLevelItem(i)->text(1) == stamp;
+    QVERIFY2(found, "the time of the event was not read back from EventsLog.xml");
+}
+
+void tst_MainWindow::insertionOpensOneNotice()
+{
+    SK_MainWindow window;
+    QString notice;
+    int shown = 0;
+    QTimer watcher;
+    connect(&watcher, &QTimer::timeout, [&] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+            ++shown;
+            notice = dialog->windowTitle();
+            dialog->reject();
+        }
+    });
+    watcher.start(0);
+    m_host->host->injectEvent(1042, {0, 6});
+    window.pollEvents();
+    m_host->host->injectEvent(1043, {0, 6});
+    window.pollEvents();
+    watcher.stop();
+    QCOMPARE(shown, 1); // the second one came while the notice was disarmed
+    QCOMPARE(notice, QStringLiteral("Event Notification"));
+}
+
+void tst_MainWindow::notifierKeepsTheConsoleQuiet()
+{
+    m_host->host->modify([](sk_emu::Model &m) {
+        m.host.notifierRunning = true;
+        return false;
+    });
+    SK_MainWindow window;
+    m_host->host->injectEvent(1042, {0, 6});
+    window.pollEvents(); // a notice here would block the test until its time limit
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void tst_MainWindow::statusBarShowsTheDriversFigures()
+{
+    SK_MainWindow window;
+    m_host->clock->advance(3000);
+    window.statusBarRefresh();
+    QLabel *hostRate = window.findChild<QLabel *>(QStringLiteral("statusLabel1"));
+    QLabel *diskBytes = window.findChild<QLabel *>(QStringLiteral("statusLabel6"));
+    QVERIFY(hostRate->text().startsWith(QStringLiteral("Host: ")));
+    QVERIFY(hostRate->text().endsWith(QStringLiteral(" MB/S")));
+    QVERIFY(diskBytes->text().startsWith(QStringLiteral("Disk: ")));
+    QVERIFY(!hostRate->toolTip().isEmpty());
+}
+
+void tst_MainWindow::missingDriversAreReported()
+{
+    m_host->host->modify([](sk_emu::Model &m) {
+        m.arrays.clear();
+        for (auto &driver : m.host.drivers)
+            driver.loaded = driver.name == "skbottom.sys";
+        return true;
+    });
+    QString text;
+    answerNextBox(&text);
+    SK_MainWindow window;
+    QVERIFY(text.contains(QStringLiteral("Unable to find skcfg RAID driver")));
+
+    m_host->host->modify([](sk_emu::Model &m) {
+        for (auto &driver : m.host.drivers)
+            driver.loaded = false;
+        return false;
+    });
+    SK_MainWindow none;
+    auto *box = none.findChild<QMessageBox *>(QStringLiteral("noDriverMessage"));
+    QVERIFY2(box, "no box about the missing drivers");
+    QVERIFY(box->text().startsWith(QStringLiteral("Unable to find the VOR RAID drivers")));
+    box->disconnect(); // OK would quit the test's event loop
+    box->close();
+}
+
+void tst_MainWindow::windowStateSurvivesARestart()
+{
+    {
+        SK_MainWindow window;
+        window.resize(900, 600);
+    }
+    QVERIFY(QSettings().contains(QStringLiteral("mainWindowGeometry")));
+    QVERIFY(QSettings().contains(QStringLiteral("diskListHeaderState")));
+    SK_MainWindow again;
+    QCOMPARE(again.size(), QSize(900, 600));
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_mainwindow.moc"
