@@ -35,8 +35,7 @@ public:
             std::memcpy(data, m_image.data(), std::min<std::size_t>(size, m_image.size()));
         return SK_HostIo{true, 0, size};
     }
-    SK_HostIo write(std::uint64_t, std::uint64_t, const std::uint8_t *,
-                    std::uint32_t size) override
+    SK_HostIo write(std::uint64_t, std::uint64_t, const std::uint8_t *, std::uint32_t size) override
     {
         return SK_HostIo{true, 0, size};
     }

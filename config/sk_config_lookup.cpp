@@ -63,8 +63,8 @@ std::uint64_t withCore(const SK_CoreEntry *entry, Lookup &&lookup)
 
 bool isKnownTag(std::uint32_t tag)
 {
-    return tag == SK_TAG_DISK || tag == SK_TAG_ARRAY || tag == SK_TAG_CONTROLLER
-           || tag == SK_TAG_ENCLOSURE;
+    return tag == SK_TAG_DISK || tag == SK_TAG_ARRAY || tag == SK_TAG_CONTROLLER ||
+           tag == SK_TAG_ENCLOSURE;
 }
 
 } // namespace
@@ -89,9 +89,8 @@ std::uint32_t SK_FindDiskByName(const SK_Core &core, const char *name)
 
 std::uint32_t SK_FindDiskById(const SK_Core &core, std::uint64_t id)
 {
-    return findRecord(core.Disks, core.DiskCount, [id](const SK_C_PhysicalDevice &disk) {
-        return id != 0 && disk.ID == id;
-    });
+    return findRecord(core.Disks, core.DiskCount,
+                      [id](const SK_C_PhysicalDevice &disk) { return id != 0 && disk.ID == id; });
 }
 
 std::uint32_t SK_FindArrayByName(const SK_Core &core, const char *name)
@@ -103,17 +102,15 @@ std::uint32_t SK_FindArrayByName(const SK_Core &core, const char *name)
 
 std::uint32_t SK_FindArrayById(const SK_Core &core, std::uint64_t id)
 {
-    return findRecord(core.Arrays, core.ArrayCount, [id](const SK_C_LogicalDevice &array) {
-        return id != 0 && array.ID == id;
-    });
+    return findRecord(core.Arrays, core.ArrayCount,
+                      [id](const SK_C_LogicalDevice &array) { return id != 0 && array.ID == id; });
 }
 
 std::uint32_t SK_FindControllerById(const SK_Core &core, std::uint64_t id)
 {
-    return findRecord(core.Controllers, core.ControllerCount,
-                      [id](const SK_C_ControllerDevice &controller) {
-                          return id != 0 && controller.ID == id;
-                      });
+    return findRecord(
+        core.Controllers, core.ControllerCount,
+        [id](const SK_C_ControllerDevice &controller) { return id != 0 && controller.ID == id; });
 }
 
 std::uint64_t SK_ArrayIdByName(const SK_Core &core, const char *name)
@@ -162,8 +159,7 @@ std::uint64_t SK_ApiGetArrayRoute(const SK_CoreEntry *core, std::uint64_t id)
 {
     return withCore(core, [id](const SK_Core &c) -> std::uint64_t {
         const std::uint32_t i = SK_FindArrayById(c, id);
-        return i < c.ArrayCount ? packRoutes(c.Arrays[i]->DeviceRoute, c.Arrays[i]->CoreRoute)
-                                : 0;
+        return i < c.ArrayCount ? packRoutes(c.Arrays[i]->DeviceRoute, c.Arrays[i]->CoreRoute) : 0;
     });
 }
 
@@ -288,8 +284,8 @@ std::uint32_t SK_ValidateCoreDeviceLists(const SK_CoreEntry *core, std::uint32_t
     if ((count1 == 0 && count2 == 0) || (!list1 && !list2))
         return SK_STS_INVALID_DEVICE_LIST;
     SKTL_LockGuard lock;
-    auto *scratch = static_cast<SK_CoreEntry *>(
-        SKTL_Alloc(sizeof(SK_CoreEntry), "SK_ValidateCoreDeviceLists"));
+    auto *scratch =
+        static_cast<SK_CoreEntry *>(SKTL_Alloc(sizeof(SK_CoreEntry), "SK_ValidateCoreDeviceLists"));
     if (!scratch)
         return SK_STS_NO_MEMORY_AVAILABLE;
 
@@ -358,8 +354,7 @@ void composeRow(std::uint8_t *row, char *path, std::uint64_t size, std::uint32_t
     SK_PutU64(row, 0, size);
     SK_PutU32(row, 8, kind);
     SK_PutU32(row, 12, depth);
-    SK_CopyText(reinterpret_cast<char *>(row + W2KP_ROW_PATH), W2KP_ROW_SIZE - W2KP_ROW_PATH,
-                path);
+    SK_CopyText(reinterpret_cast<char *>(row + W2KP_ROW_PATH), W2KP_ROW_SIZE - W2KP_ROW_PATH, path);
 }
 
 } // namespace
@@ -379,8 +374,8 @@ std::uint32_t W2KP_EnumerateForCore(SK_Handle handle, char *pathScratch, std::ui
         return SK_STS_NO_MEMORY_AVAILABLE;
     std::uint8_t *bytes = image.data();
 
-    std::uint32_t status = SKTL_DeviceTransfer(true, handle, bytes, 0, kW2kpIdReadSize, nullptr,
-                                               nullptr);
+    std::uint32_t status =
+        SKTL_DeviceTransfer(true, handle, bytes, 0, kW2kpIdReadSize, nullptr, nullptr);
     if (status != SK_STS_SUCCESS)
         return status;
     const std::uint32_t channel = SK_GetU32(bytes, 0);
@@ -395,8 +390,8 @@ std::uint32_t W2KP_EnumerateForCore(SK_Handle handle, char *pathScratch, std::ui
         return status;
 
     std::memset(bytes, 0, W2KP_IMAGE_SIZE);
-    status = SKTL_DeviceTransfer(true, handle, bytes, std::uint64_t{channel} << 9,
-                                 W2KP_IMAGE_SIZE, nullptr, nullptr);
+    status = SKTL_DeviceTransfer(true, handle, bytes, std::uint64_t{channel} << 9, W2KP_IMAGE_SIZE,
+                                 nullptr, nullptr);
     if (status != SK_STS_SUCCESS)
         return status;
 
@@ -462,9 +457,9 @@ std::uint32_t SK_CheckImage(const std::uint8_t *image, std::uint32_t size, bool 
     bool tablesFit = true;
     SK_WalkImage(image, size, previous, [&](const SK_ImageRecord &record) {
         end = record.offset + record.length;
-        if (record.tag == SK_TAG_ARRAY
-            && SK_C_LogicalDevice::SK_CheckRecord(image + record.offset, record.length)
-                   != SK_STS_SUCCESS)
+        if (record.tag == SK_TAG_ARRAY &&
+            SK_C_LogicalDevice::SK_CheckRecord(image + record.offset, record.length) !=
+                SK_STS_SUCCESS)
             tablesFit = false;
     });
     if (!tablesFit)

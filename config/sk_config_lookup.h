@@ -62,9 +62,8 @@ std::uint32_t SK_CommonCore(const SK_DeviceName *list, std::uint32_t count);
 // Writes the core entry a device list addresses to `out`: 1 when any name belongs to
 // core 1 (the entry is `core`'s bus, number 1, "Core1"), else 0. Names of core 2 alone
 // count as none. `outSize` is not looked at: `out` must hold one entry.
-std::uint32_t SK_BuildCoreList(const SK_CoreEntry *core, SK_CoreEntry *out,
-                               std::uint32_t outSize, const SK_DeviceName *list,
-                               std::uint32_t count);
+std::uint32_t SK_BuildCoreList(const SK_CoreEntry *core, SK_CoreEntry *out, std::uint32_t outSize,
+                               const SK_DeviceName *list, std::uint32_t count);
 
 // Copies the names of `list` that belong to core `coreNumber` to `out` and returns how
 // many. With `out` equal to `list` nothing is copied and `count` is returned.

@@ -34,8 +34,7 @@ const char *SK_NextToken(SK_Tokenizer *tokenizer);
 // index past a limit (disk 304, array 384, member 32, enclosure 76, controller 19,
 // spare 303), a report of 0x80000 bytes or more, or no memory. What was read before a
 // failure stays in the snapshot.
-std::uint32_t SK_ParseConfigText(const char *text, std::size_t length,
-                                 SK_ConfigSnapshot *snapshot);
+std::uint32_t SK_ParseConfigText(const char *text, std::size_t length, SK_ConfigSnapshot *snapshot);
 
 // Fills `snapshot` from the compact token report of `core` (SK_ApiGetCoreConfigString
 // with 0x80000 bytes). `reserved` is not used. Returns 1 on success, 0 on failure:

@@ -33,9 +33,8 @@ void patchSizeLine(char *buffer, std::uint32_t length)
     // Six columns hold any length the reader accepts; a longer one runs into the two
     // blanks behind the field but never over the line end.
     const std::uint32_t room = kSizeLineEnd - SK_REPORT_SIZE_COLUMN;
-    const std::uint32_t count = n > 0 && static_cast<std::uint32_t>(n) < room
-                                    ? static_cast<std::uint32_t>(n)
-                                    : room;
+    const std::uint32_t count =
+        n > 0 && static_cast<std::uint32_t>(n) < room ? static_cast<std::uint32_t>(n) : room;
     std::memcpy(buffer + SK_REPORT_SIZE_COLUMN, digits, count);
     if (count <= kSizeFieldWidth)
         buffer[SK_REPORT_SIZE_COLUMN + kSizeFieldWidth] = ' ';
@@ -86,8 +85,7 @@ std::uint32_t SK_BufferPrintConfig(SK_Core &core, char *buffer, std::uint32_t si
             position = core.Arrays[i]->BufferPrint(i, position, buffer, size, resolveOsNames,
                                                    compact, xml);
     }
-    for (std::uint32_t i = 0; core.Enclosures && i < core.EnclosureCount && position < size;
-         ++i) {
+    for (std::uint32_t i = 0; core.Enclosures && i < core.EnclosureCount && position < size; ++i) {
         if (core.Enclosures[i])
             position = core.Enclosures[i]->BufferPrint(i, position, buffer, size, compact, xml);
     }
@@ -104,10 +102,9 @@ std::uint32_t SK_BufferPrintConfig(SK_Core &core, char *buffer, std::uint32_t si
     return SK_STS_SUCCESS;
 }
 
-std::uint32_t SK_ApiGetCoreConfigString(const SK_CoreEntry *core, char *buffer,
-                                        std::uint32_t size, std::uint32_t resolveOsNames,
-                                        std::uint32_t allCores, std::uint32_t compact,
-                                        std::uint32_t xml)
+std::uint32_t SK_ApiGetCoreConfigString(const SK_CoreEntry *core, char *buffer, std::uint32_t size,
+                                        std::uint32_t resolveOsNames, std::uint32_t allCores,
+                                        std::uint32_t compact, std::uint32_t xml)
 {
     if (!buffer || (!core && !allCores))
         return SKTL_STS_INVALID_PARAMETER;
@@ -137,9 +134,8 @@ std::uint32_t SK_ApiGetDellConfigString(char *buffer, std::uint32_t size)
         return SKTL_STS_INVALID_PARAMETER;
     if (size < SK_REPORT_MIN_SIZE)
         return SK_STS_BUFFER_TOO_SMALL;
-    std::snprintf(buffer, size,
-                  "%s  **Device**\n    %24s = %s\n    %24s = %s\n    %24s = %s\n", kSizeLine,
-                  "DeviceName", "HDDCONTROLLER0", "DeviceMnemonic", "VORRAID:0",
+    std::snprintf(buffer, size, "%s  **Device**\n    %24s = %s\n    %24s = %s\n    %24s = %s\n",
+                  kSizeLine, "DeviceName", "HDDCONTROLLER0", "DeviceMnemonic", "VORRAID:0",
                   "DeviceTypeString", "VORRAID");
     return SK_STS_SUCCESS;
 }

@@ -24,10 +24,9 @@ std::uint32_t SK_BufferPrintConfig(SK_Core &core, char *buffer, std::uint32_t si
 // Returns 1; 7 for a null buffer or entry; 8 when the control device can't be opened
 // or no core exists; 26 for a buffer under 32768; 48 when the enumeration can't
 // allocate.
-std::uint32_t SK_ApiGetCoreConfigString(const SK_CoreEntry *core, char *buffer,
-                                        std::uint32_t size, std::uint32_t resolveOsNames,
-                                        std::uint32_t allCores, std::uint32_t compact,
-                                        std::uint32_t xml);
+std::uint32_t SK_ApiGetCoreConfigString(const SK_CoreEntry *core, char *buffer, std::uint32_t size,
+                                        std::uint32_t resolveOsNames, std::uint32_t allCores,
+                                        std::uint32_t compact, std::uint32_t xml);
 
 // A fixed report in the older vendor format, reading no device data. Its size field
 // stays unpatched. Returns 1; 7 for a null buffer; 26 for a buffer under 32768.

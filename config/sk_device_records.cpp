@@ -95,8 +95,8 @@ std::uint32_t SK_ComposeDeviceName(char *name, const char *routePrefix, std::uin
 SK_C_PhysicalDevice::SK_C_PhysicalDevice(const std::uint8_t *record, const char *routePrefix,
                                          bool previous, std::uint32_t length)
 {
-    const std::uint32_t formatLength = previous ? SK_DISK_RECORD_SIZE_PREVIOUS
-                                                : SK_DISK_RECORD_SIZE;
+    const std::uint32_t formatLength =
+        previous ? SK_DISK_RECORD_SIZE_PREVIOUS : SK_DISK_RECORD_SIZE;
     const SK_RecordBytes bytes(record, length < formatLength ? length : formatLength);
 
     ControllerNumber = kNoPosition;
@@ -182,9 +182,8 @@ std::uint32_t SK_C_PhysicalDevice::BufferPrint(std::uint32_t index, std::uint32_
 SK_C_ControllerDevice::SK_C_ControllerDevice(const std::uint8_t *record, const char *,
                                              std::uint32_t length)
 {
-    const SK_RecordBytes bytes(record, length < SK_CONTROLLER_RECORD_SIZE
-                                           ? length
-                                           : SK_CONTROLLER_RECORD_SIZE);
+    const SK_RecordBytes bytes(
+        record, length < SK_CONTROLLER_RECORD_SIZE ? length : SK_CONTROLLER_RECORD_SIZE);
     ID = bytes.u64(kCtlId);
     DeviceRoute = bytes.u16(kCtlDeviceRoute);
     CoreRoute = bytes.u16(kCtlCoreRoute);
@@ -242,9 +241,8 @@ std::uint32_t SK_C_ControllerDevice::BufferPrint(std::uint32_t, std::uint32_t po
 SK_C_SEPDevice::SK_C_SEPDevice(const std::uint8_t *record, const char *routePrefix,
                                std::uint32_t length)
 {
-    const SK_RecordBytes bytes(record, length < SK_ENCLOSURE_RECORD_SIZE
-                                           ? length
-                                           : SK_ENCLOSURE_RECORD_SIZE);
+    const SK_RecordBytes bytes(
+        record, length < SK_ENCLOSURE_RECORD_SIZE ? length : SK_ENCLOSURE_RECORD_SIZE);
     ID = bytes.u64(kSepId);
     DeviceRoute = bytes.u16(kSepDeviceRoute);
     CoreRoute = bytes.u16(kSepCoreRoute);
@@ -258,9 +256,9 @@ SK_C_SEPDevice::SK_C_SEPDevice(const std::uint8_t *record, const char *routePref
 
 SK_C_SEPDevice::~SK_C_SEPDevice() = default;
 
-std::uint32_t SK_C_SEPDevice::BufferPrint(std::uint32_t index, std::uint32_t position,
-                                          char *buffer, std::uint32_t size,
-                                          std::uint32_t compact, std::uint32_t xml)
+std::uint32_t SK_C_SEPDevice::BufferPrint(std::uint32_t index, std::uint32_t position, char *buffer,
+                                          std::uint32_t size, std::uint32_t compact,
+                                          std::uint32_t xml)
 {
     SK_ReportWriter w(buffer, size, position, compact, xml, 1);
     if (!w.hasRoom(SK_RECORD_PRINT_ROOM))

@@ -73,8 +73,8 @@ constexpr std::uint32_t kMemberFlags = 48;
 std::uint64_t tableBytes(std::uint32_t first, std::uint32_t second, std::uint32_t parents,
                          std::uint32_t spares)
 {
-    return std::uint64_t{first} * second * SK_MEMBER_ENTRY_SIZE
-           + (std::uint64_t{parents} + spares) * SK_REFERENCE_ENTRY_SIZE;
+    return std::uint64_t{first} * second * SK_MEMBER_ENTRY_SIZE +
+           (std::uint64_t{parents} + spares) * SK_REFERENCE_ENTRY_SIZE;
 }
 
 template <class T>
@@ -121,12 +121,11 @@ void printReference(SK_ReportWriter &w, const char *key, const char *tag, std::u
 
 std::uint64_t SK_PackRoute(const SK_C_DeviceReference &reference)
 {
-    return std::uint64_t{reference.DeviceRoute} | (std::uint64_t{reference.CoreRoute} << 16)
-           | (std::uint64_t{reference.Kept & 0xFFFFu} << 32);
+    return std::uint64_t{reference.DeviceRoute} | (std::uint64_t{reference.CoreRoute} << 16) |
+           (std::uint64_t{reference.Kept & 0xFFFFu} << 32);
 }
 
-std::uint32_t SK_ReferenceMatchesRoute(const SK_C_DeviceReference &reference,
-                                       std::uint64_t route)
+std::uint32_t SK_ReferenceMatchesRoute(const SK_C_DeviceReference &reference, std::uint64_t route)
 {
     return SK_PackRoute(reference) == route ? 1 : 0;
 }
@@ -175,17 +174,15 @@ std::uint32_t SK_C_LogicalElement::BufferPrint(std::uint32_t index, std::uint32_
 // ---------------------------------------------------------------------------------
 // Array
 
-std::uint32_t SK_C_LogicalDevice::SK_CheckRecord(const std::uint8_t *record,
-                                                 std::uint32_t length)
+std::uint32_t SK_C_LogicalDevice::SK_CheckRecord(const std::uint8_t *record, std::uint32_t length)
 {
     if (!record)
         return SKTL_STS_INVALID_PARAMETER;
     if (length < SK_ARRAY_FIXED_SIZE)
         return SK_STS_OUT_OF_BOUNDS;
-    const std::uint64_t tables = tableBytes(SK_GetU32(record, kFirstCount),
-                                            SK_GetU32(record, kSecondCount),
-                                            SK_GetU32(record, kParentCount),
-                                            SK_GetU32(record, kSpareCount));
+    const std::uint64_t tables =
+        tableBytes(SK_GetU32(record, kFirstCount), SK_GetU32(record, kSecondCount),
+                   SK_GetU32(record, kParentCount), SK_GetU32(record, kSpareCount));
     if (tables > length - SK_ARRAY_FIXED_SIZE)
         return SK_STS_OUT_OF_BOUNDS;
     return SK_STS_SUCCESS;
@@ -314,8 +311,8 @@ std::uint32_t SK_C_LogicalDevice::SK_FindSpare(std::uint64_t id, std::uint16_t d
 {
     for (std::uint32_t i = 0; i < SpareCount; ++i) {
         const SK_C_DeviceReference *spare = Spares[i];
-        if (spare && spare->ID == id && spare->DeviceRoute == deviceRoute
-            && spare->CoreRoute == coreRoute)
+        if (spare && spare->ID == id && spare->DeviceRoute == deviceRoute &&
+            spare->CoreRoute == coreRoute)
             return i;
     }
     return SpareCount;
@@ -323,8 +320,8 @@ std::uint32_t SK_C_LogicalDevice::SK_FindSpare(std::uint64_t id, std::uint16_t d
 
 std::uint32_t SK_C_LogicalDevice::BufferPrint(std::uint32_t index, std::uint32_t position,
                                               char *buffer, std::uint32_t size,
-                                              std::uint32_t resolveOsNames,
-                                              std::uint32_t compact, std::uint32_t xml)
+                                              std::uint32_t resolveOsNames, std::uint32_t compact,
+                                              std::uint32_t xml)
 {
     SK_ReportWriter w(buffer, size, position, compact, xml, 1);
     if (!w.hasRoom(SK_RECORD_PRINT_ROOM))
@@ -337,8 +334,8 @@ std::uint32_t SK_C_LogicalDevice::BufferPrint(std::uint32_t index, std::uint32_t
     char osName[16] = "NONE";
     if (resolveOsNames && !SK_IsHidden()) {
         std::uint32_t diskNumber = 0;
-        if (SK_CurrentPlatform().system().findOsDiskNumber(CoreNumber, DeviceRoute, diskNumber)
-            == SK_STS_SUCCESS)
+        if (SK_CurrentPlatform().system().findOsDiskNumber(CoreNumber, DeviceRoute, diskNumber) ==
+            SK_STS_SUCCESS)
             std::snprintf(osName, sizeof osName, "%u", diskNumber);
     }
 
@@ -393,10 +390,9 @@ std::uint32_t SK_C_LogicalDevice::BufferPrint(std::uint32_t index, std::uint32_t
 
     for (std::uint32_t i = 0; Elements && i < SK_ElementSlots(); ++i) {
         if (Elements[i])
-            w = SK_ReportWriter(buffer, size,
-                                Elements[i]->BufferPrint(i, w.position(), buffer, size, compact,
-                                                         xml),
-                                compact, xml, 2);
+            w = SK_ReportWriter(
+                buffer, size, Elements[i]->BufferPrint(i, w.position(), buffer, size, compact, xml),
+                compact, xml, 2);
     }
     for (std::uint32_t i = 0; i < SpareCount; ++i) {
         if (Spares[i] && w.hasRoom(SK_LINE_PRINT_ROOM))

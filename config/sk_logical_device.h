@@ -23,8 +23,7 @@ struct SK_C_DeviceReference
 std::uint64_t SK_PackRoute(const SK_C_DeviceReference &reference);
 
 // 1 when the reference's packed route equals `route`, else 0.
-std::uint32_t SK_ReferenceMatchesRoute(const SK_C_DeviceReference &reference,
-                                       std::uint64_t route);
+std::uint32_t SK_ReferenceMatchesRoute(const SK_C_DeviceReference &reference, std::uint64_t route);
 
 // One member: an extent of a disk. Built from a 64-byte member table entry.
 class SK_C_LogicalElement

@@ -6,12 +6,8 @@
 
 SK_ReportWriter::SK_ReportWriter(char *buffer, std::uint32_t size, std::uint32_t position,
                                  std::uint32_t compact, std::uint32_t xml, std::uint32_t depth)
-    : m_buffer(buffer),
-      m_size(buffer ? size : 0),
-      m_position(position),
-      m_compact(compact != 0),
-      m_xml(xml != 0),
-      m_depth(depth)
+    : m_buffer(buffer), m_size(buffer ? size : 0), m_position(position), m_compact(compact != 0),
+      m_xml(xml != 0), m_depth(depth)
 {
     if (m_size == 0)
         m_position = 0;

@@ -15,8 +15,8 @@ class SK_ReportWriter
 {
 public:
     // `depth` is the nesting of the record's own element in tagged form.
-    SK_ReportWriter(char *buffer, std::uint32_t size, std::uint32_t position,
-                    std::uint32_t compact, std::uint32_t xml, std::uint32_t depth);
+    SK_ReportWriter(char *buffer, std::uint32_t size, std::uint32_t position, std::uint32_t compact,
+                    std::uint32_t xml, std::uint32_t depth);
 
     // True when at least `room` bytes are left behind the position.
     bool hasRoom(std::uint32_t room) const;
@@ -27,8 +27,8 @@ public:
     void put(const char *text);
 
     // Items. In token form each is "key: value "; in tagged form "<tag>value</tag>".
-    void text(const char *key, const char *tag, const char *value);   // "NONE" when empty
-    void caret(const char *key, const char *tag, const char *value);  // "^value^", "NONE"
+    void text(const char *key, const char *tag, const char *value);  // "NONE" when empty
+    void caret(const char *key, const char *tag, const char *value); // "^value^", "NONE"
     void number(const char *key, const char *tag, std::int32_t value);
     void hex16(const char *key, const char *tag, std::uint32_t value);
     void hex32(const char *key, const char *tag, std::uint32_t value);

@@ -31,8 +31,8 @@ constexpr std::uint32_t SK_ARRAY_STATE_OUTDATE = 515;
 constexpr std::uint32_t SK_ARRAY_STATE_LOCKED = 516;
 
 // Array types as the driver numbers them.
-constexpr std::uint32_t SK_ARRAY_TYPE_PARITY = 7157;  // RAID5, RAID50
-constexpr std::uint32_t SK_ARRAY_TYPE_MIRROR = 7158;  // RAID0, RAID1, RAID10 and N forms
+constexpr std::uint32_t SK_ARRAY_TYPE_PARITY = 7157; // RAID5, RAID50
+constexpr std::uint32_t SK_ARRAY_TYPE_MIRROR = 7158; // RAID0, RAID1, RAID10 and N forms
 constexpr std::uint32_t SK_ARRAY_TYPE_VOLUME = 7159;
 constexpr std::uint32_t SK_ARRAY_TYPE_LEGACY = 7161;
 constexpr std::uint32_t SK_ARRAY_TYPE_DUAL_PARITY = 7162; // RAID6, RAID60

@@ -25,8 +25,8 @@ void appendLine(char *row, std::size_t &used, const std::string &name, const std
     const int n = std::snprintf(row + used, SK_FILE_VERSION_ROW_SIZE - used, "%s=%s\n",
                                 name.c_str(), value.c_str());
     if (n > 0)
-        used += std::min<std::size_t>(static_cast<std::size_t>(n),
-                                      SK_FILE_VERSION_ROW_SIZE - 1 - used);
+        used +=
+            std::min<std::size_t>(static_cast<std::size_t>(n), SK_FILE_VERSION_ROW_SIZE - 1 - used);
 }
 
 } // namespace
@@ -35,8 +35,8 @@ std::uint32_t SK_ServiceControl(const char *name, const char *path, std::uint32_
 {
     if (!name || !*name || !isKnownAction(action))
         return SK_STS_FAILURE;
-    const std::uint32_t result = SK_CurrentPlatform().system().serviceControl(
-        name, path ? path : "", action);
+    const std::uint32_t result =
+        SK_CurrentPlatform().system().serviceControl(name, path ? path : "", action);
     return result == SK_STS_SUCCESS ? SK_STS_SUCCESS : SK_STS_FAILURE;
 }
 

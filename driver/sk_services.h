@@ -10,11 +10,11 @@
 constexpr std::uint32_t SK_SERVICE_REINSTALL = 16; // stop, delete, create anew, start
 constexpr std::uint32_t SK_SERVICE_START = 32;
 constexpr std::uint32_t SK_SERVICE_STOP = 48;
-constexpr std::uint32_t SK_SERVICE_DELETE = 64;   // stop and delete
-constexpr std::uint32_t SK_SERVICE_QUERY = 80;    // 1 when running
+constexpr std::uint32_t SK_SERVICE_DELETE = 64; // stop and delete
+constexpr std::uint32_t SK_SERVICE_QUERY = 80;  // 1 when running
 constexpr std::uint32_t SK_SERVICE_AUTO_START = 96;
 constexpr std::uint32_t SK_SERVICE_DEMAND_START = 112;
-constexpr std::uint32_t SK_SERVICE_EXISTS = 128;  // 1 when the service exists
+constexpr std::uint32_t SK_SERVICE_EXISTS = 128; // 1 when the service exists
 
 // Carries out `action` on the driver service `name` (`path` is its binary, used when
 // the service is created anew). Returns 1, or 3 on failure, for a stopped service

@@ -78,8 +78,7 @@ std::string SK_SystemView::systemDirectory()
     return {};
 }
 
-std::uint32_t SK_SystemView::serviceControl(const std::string &, const std::string &,
-                                            std::uint32_t)
+std::uint32_t SK_SystemView::serviceControl(const std::string &, const std::string &, std::uint32_t)
 {
     return 3;
 }

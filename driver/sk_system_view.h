@@ -21,9 +21,9 @@ enum class SK_VolumeLock {
 struct SK_EjectAnswer
 {
     bool ejected = false;
-    std::uint32_t vetoType = 0;   // 0: no veto, the request failed for another reason
-    std::string vetoName;         // who vetoed
-    std::uint32_t errorCode = 0;  // configuration-manager result when not ejected
+    std::uint32_t vetoType = 0;  // 0: no veto, the request failed for another reason
+    std::string vetoName;        // who vetoed
+    std::uint32_t errorCode = 0; // configuration-manager result when not ejected
 };
 
 // Version resources and attributes of one file.
@@ -31,7 +31,7 @@ struct SK_FileVersionRecord
 {
     std::string fileName;
     std::uint32_t attributes = 0;
-    std::string creationTime;   // "%02d/%02d/%04d %02d:%02d:%02d.%03d"
+    std::string creationTime; // "%02d/%02d/%04d %02d:%02d:%02d.%03d"
     std::string lastAccessTime;
     std::string lastWriteTime;
     std::uint64_t fileSize = 0;
@@ -59,12 +59,10 @@ public:
                                            std::uint32_t &diskNumber);
     // The array route behind an operating-system disk number. 1, or 3 when the disk
     // is not an array of the RAID stack.
-    virtual std::uint32_t arrayRouteOfOsDisk(std::uint32_t diskNumber,
-                                             std::uint32_t &deviceRoute);
+    virtual std::uint32_t arrayRouteOfOsDisk(std::uint32_t diskNumber, std::uint32_t &deviceRoute);
     virtual SK_VolumeLock lockAndDismountVolume(char letter);
     // Storage device number of a volume; on failure `error` holds the system error.
-    virtual bool volumeDeviceNumber(char letter, std::uint32_t &deviceNumber,
-                                    std::uint32_t &error);
+    virtual bool volumeDeviceNumber(char letter, std::uint32_t &deviceNumber, std::uint32_t &error);
     // Device instance of the disk device with that number.
     virtual bool findDeviceInstance(std::uint32_t deviceNumber, std::uint32_t &instance,
                                     std::uint32_t &error);

@@ -29,14 +29,14 @@ inline std::uint16_t SK_GetU16(const void *base, std::size_t offset)
 inline std::uint32_t SK_GetU32(const void *base, std::size_t offset)
 {
     const auto *p = static_cast<const std::uint8_t *>(base) + offset;
-    return static_cast<std::uint32_t>(p[0]) | (static_cast<std::uint32_t>(p[1]) << 8)
-           | (static_cast<std::uint32_t>(p[2]) << 16) | (static_cast<std::uint32_t>(p[3]) << 24);
+    return static_cast<std::uint32_t>(p[0]) | (static_cast<std::uint32_t>(p[1]) << 8) |
+           (static_cast<std::uint32_t>(p[2]) << 16) | (static_cast<std::uint32_t>(p[3]) << 24);
 }
 
 inline std::uint64_t SK_GetU64(const void *base, std::size_t offset)
 {
-    return static_cast<std::uint64_t>(SK_GetU32(base, offset))
-           | (static_cast<std::uint64_t>(SK_GetU32(base, offset + 4)) << 32);
+    return static_cast<std::uint64_t>(SK_GetU32(base, offset)) |
+           (static_cast<std::uint64_t>(SK_GetU32(base, offset + 4)) << 32);
 }
 
 inline void SK_PutU16(void *base, std::size_t offset, std::uint16_t value)

@@ -17,8 +17,7 @@ void writeEventReply(const Model &model, std::uint32_t cursor, std::uint8_t *rep
         put32(reply, eventReply::NextCursor, model.nextEventNumber);
         return;
     }
-    put32(reply, eventReply::Available,
-          static_cast<std::uint32_t>(model.events.end() - it));
+    put32(reply, eventReply::Available, static_cast<std::uint32_t>(model.events.end() - it));
     put32(reply, eventReply::NextCursor, it->number + 1);
     put16(reply, eventReply::Message, it->message);
     put8(reply, eventReply::EntryByte, it->entryByte);

@@ -227,9 +227,9 @@ private:
 
 std::size_t arrayRecordSize(const Layout &layout, const Array &array)
 {
-    return image::ArrayFixedSize
-           + static_cast<std::size_t>(layout.firstCount) * layout.secondCount * image::MemberSize
-           + (array.parents.size() + array.spares.size()) * image::ReferenceSize;
+    return image::ArrayFixedSize +
+           static_cast<std::size_t>(layout.firstCount) * layout.secondCount * image::MemberSize +
+           (array.parents.size() + array.spares.size()) * image::ReferenceSize;
 }
 
 std::vector<std::uint8_t> writeImage(const Model &model, const ImageOptions &options)

@@ -98,8 +98,9 @@ std::vector<Extent> freeExtents(const Model &model, const Disk &disk)
     }
     if (cursor < usable)
         free.push_back({cursor, usable - cursor});
-    free.erase(std::remove_if(free.begin(), free.end(), [](const Extent &e) { return e.size == 0; }),
-               free.end());
+    free.erase(
+        std::remove_if(free.begin(), free.end(), [](const Extent &e) { return e.size == 0; }),
+        free.end());
     return free;
 }
 
@@ -116,7 +117,7 @@ std::uint64_t layoutCapacity(std::uint32_t type, std::uint32_t firstCount,
         return sumOfMembers;
     case code::TypeMirrorStripe:
         if (secondCount == 1)
-            return n * smallestMember;     // stripe
+            return n * smallestMember;      // stripe
         return firstCount * smallestMember; // mirror (1 row) or stripe of mirrors
     case code::TypeParity:
         return secondCount > 1 ? firstCount * (secondCount - 1) * smallestMember : 0;

@@ -8,8 +8,8 @@ namespace {
 
 bool memberLost(const Member &member)
 {
-    return member.disk == 0
-           || (member.flags & (code::MemberFailed | code::MemberOffline | code::MemberNotPresent));
+    return member.disk == 0 ||
+           (member.flags & (code::MemberFailed | code::MemberOffline | code::MemberNotPresent));
 }
 
 } // namespace

@@ -20,9 +20,9 @@ inline std::uint32_t u16(const std::uint8_t *p, std::size_t at)
 }
 inline std::uint32_t u32(const std::uint8_t *p, std::size_t at)
 {
-    return static_cast<std::uint32_t>(p[at]) | static_cast<std::uint32_t>(p[at + 1]) << 8
-           | static_cast<std::uint32_t>(p[at + 2]) << 16
-           | static_cast<std::uint32_t>(p[at + 3]) << 24;
+    return static_cast<std::uint32_t>(p[at]) | static_cast<std::uint32_t>(p[at + 1]) << 8 |
+           static_cast<std::uint32_t>(p[at + 2]) << 16 |
+           static_cast<std::uint32_t>(p[at + 3]) << 24;
 }
 inline std::uint64_t u64(const std::uint8_t *p, std::size_t at)
 {

@@ -61,8 +61,8 @@ const wchar_t *stringForNumber(std::uint32_t number)
 
 bool isConversion(wchar_t c)
 {
-    return c == L'd' || c == L'i' || c == L'u' || c == L'x' || c == L'X' || c == L'o'
-           || c == L'c' || c == L's';
+    return c == L'd' || c == L'i' || c == L'u' || c == L'x' || c == L'X' || c == L'o' ||
+           c == L'c' || c == L's';
 }
 
 // Formats one insert such as "08X" with its parameter; false for a conversion that
@@ -84,8 +84,8 @@ bool formatInsert(const std::wstring &conversion, std::uint32_t value, std::wstr
         // Wide text needs "ls" where the catalogue says "s".
         const std::wstring wideFormat = format.substr(0, format.size() - 1) + L"ls";
         const wchar_t *text = stringForNumber(value);
-        written = std::swprintf(piece, 64, wideFormat.c_str(),
-                                text ? text : L"!?NoStringTranslation?!");
+        written =
+            std::swprintf(piece, 64, wideFormat.c_str(), text ? text : L"!?NoStringTranslation?!");
         break;
     }
     case L'd':
@@ -265,7 +265,8 @@ int SK_TranslateMessage(std::uint32_t messageId, std::uint32_t language, wchar_t
     wchar_t line[SK_MESSAGE_TEXT_SIZE];
     std::swprintf(line, SK_MESSAGE_TEXT_SIZE,
                   L"CANNOT TRANSLATE, msg_id=%d (0x%x), p1=0x%x, p2=0x%x, p3=0x%x, p4=0x%x\n",
-                  static_cast<int>(messageId), messageId, params[0], params[1], params[2], params[3]);
+                  static_cast<int>(messageId), messageId, params[0], params[1], params[2],
+                  params[3]);
     copyOut(line, textOut);
     return 0;
 }

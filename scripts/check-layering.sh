@@ -16,9 +16,6 @@ declare -A only=([emulator]="driver" [dialogs]="service" [app]="service dialogs"
 # Files allowed more than their layer.
 declare -A extra=(
     [app/sk_backend.cpp]="driver emulator" # installs the platform
-    # The placeholder main window builds an SK_Core; the one known exception until
-    # the window is replaced.
-    [app/sk_mainwindow.cpp]="driver"
 )
 
 may_include() { # file layer target

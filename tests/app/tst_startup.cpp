@@ -106,16 +106,23 @@ void tst_Startup::translationChoice_data()
     QTest::addColumn<bool>("installed");
     QTest::addColumn<QString>("storedAfter");
 
-    QTest::newRow("first run in German finds its file") << "" << "de" << true << "de";
-    QTest::newRow("first run with a hyphenated name finds none") << "" << "de_AT" << false << "en";
-    QTest::newRow("first run in Danish has no plain file") << "" << "da_DK" << false << "en";
-    QTest::newRow("stored French loads") << "fr" << "de" << true << "fr";
-    QTest::newRow("stored Danish loads") << "da_DK" << "en_US" << true << "da_DK";
-    QTest::newRow("stored Simplified Chinese misses its misspelt file")
-        << "zh_CN" << "de" << false << "zh_CN";
+    QTest::newRow("first run in German finds its file") << ""
+                                                        << "de" << true << "de";
+    QTest::newRow("first run with a hyphenated name finds none") << ""
+                                                                 << "de_AT" << false << "en";
+    QTest::newRow("first run in Danish has no plain file") << ""
+                                                           << "da_DK" << false << "en";
+    QTest::newRow("stored French loads") << "fr"
+                                         << "de" << true << "fr";
+    QTest::newRow("stored Danish loads") << "da_DK"
+                                         << "en_US" << true << "da_DK";
+    QTest::newRow("stored Simplified Chinese misses its misspelt file") << "zh_CN"
+                                                                        << "de" << false << "zh_CN";
     QTest::newRow("stored Traditional Chinese misses its misspelt file")
-        << "zh_TW" << "de" << false << "zh_TW";
-    QTest::newRow("stored code without resource is kept") << "xx" << "de" << false << "xx";
+        << "zh_TW"
+        << "de" << false << "zh_TW";
+    QTest::newRow("stored code without resource is kept") << "xx"
+                                                          << "de" << false << "xx";
 }
 
 void tst_Startup::translationChoice()

@@ -17,9 +17,18 @@ inline std::uint8_t *field(Bytes &b, std::size_t at, std::size_t width)
 {
     return &b.at(at + width - 1) - (width - 1);
 }
-inline void put16(Bytes &b, std::size_t at, std::uint16_t v) { SK_PutU16(field(b, at, 2), 0, v); }
-inline void put32(Bytes &b, std::size_t at, std::uint32_t v) { SK_PutU32(field(b, at, 4), 0, v); }
-inline void put64(Bytes &b, std::size_t at, std::uint64_t v) { SK_PutU64(field(b, at, 8), 0, v); }
+inline void put16(Bytes &b, std::size_t at, std::uint16_t v)
+{
+    SK_PutU16(field(b, at, 2), 0, v);
+}
+inline void put32(Bytes &b, std::size_t at, std::uint32_t v)
+{
+    SK_PutU32(field(b, at, 4), 0, v);
+}
+inline void put64(Bytes &b, std::size_t at, std::uint64_t v)
+{
+    SK_PutU64(field(b, at, 8), 0, v);
+}
 inline void putText(Bytes &b, std::size_t at, const std::string &text, std::size_t width)
 {
     for (std::size_t i = 0; i < width && i < text.size(); ++i)
@@ -152,11 +161,11 @@ struct Array
 
 inline Bytes arrayRecord(const Array &a)
 {
-    const std::size_t length = 512 + a.members.size() * 64
-                               + (a.parents.size() + a.spares.size()) * 16;
+    const std::size_t length =
+        512 + a.members.size() * 64 + (a.parents.size() + a.spares.size()) * 16;
     auto field = [&](int i, std::size_t actual) {
         return static_cast<std::uint32_t>(a.countOverride[i] >= 0 ? a.countOverride[i]
-                                                                   : static_cast<long long>(actual));
+                                                                  : static_cast<long long>(actual));
     };
     Bytes b(length, 0);
     put32(b, 0, 9661);
@@ -175,8 +184,9 @@ inline Bytes arrayRecord(const Array &a)
     put32(b, 116, field(2, a.parents.size()));
     put32(b, 128, a.cache);
     put32(b, 140, field(3, a.spares.size()));
-    put32(b, 144, a.lengthOverride >= 0 ? static_cast<std::uint32_t>(a.lengthOverride)
-                                        : static_cast<std::uint32_t>(length));
+    put32(b, 144,
+          a.lengthOverride >= 0 ? static_cast<std::uint32_t>(a.lengthOverride)
+                                : static_cast<std::uint32_t>(length));
     put32(b, 148, a.percent);
     put32(b, 152, a.attributes);
     put32(b, 168, 30); // task priority

@@ -127,11 +127,12 @@ TEST_F(EndToEnd, anArrayInTransformFillsBothHalvesOfItsSlot)
     scope.host->modify([](sk_emu::Model &m) {
         sk_emu::Layout target = m.arrays[1].layout;
         target.secondCount = 4;
-        target.members.push_back(sk_emu::Member{m.disks[6].id, 0, target.members[0].size, 0,
-                                                target.members[0].size, 0});
+        target.members.push_back(
+            sk_emu::Member{m.disks[6].id, 0, target.members[0].size, 0, target.members[0].size, 0});
         target.capacity = 3 * target.members[0].size;
         m.arrays[1].target = target;
-        m.arrays[1].task = sk_emu::Task{sk_emu::code::TaskTransform, sk_emu::code::TaskStarted, 500};
+        m.arrays[1].task =
+            sk_emu::Task{sk_emu::code::TaskTransform, sk_emu::code::TaskStarted, 500};
         return true;
     });
     parse();

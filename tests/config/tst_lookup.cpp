@@ -25,16 +25,20 @@ TEST(Searches, namesIgnoreOneTrailingBlankOfTheRecordAndIdZeroFindsNothing)
     broken.countOverride[2] = 3; // parents that aren't there: an empty slot
     Controller c;
     c.id = 0xC1;
-    const Image image = Image(1).add(diskRecord(zero, 128)).add(diskRecord(nine, 128))
-                            .add(diskRecord(ten, 128)).add(arrayRecord(broken))
-                            .add(arrayRecord(a)).add(controllerRecord(c));
+    const Image image = Image(1)
+                            .add(diskRecord(zero, 128))
+                            .add(diskRecord(nine, 128))
+                            .add(diskRecord(ten, 128))
+                            .add(arrayRecord(broken))
+                            .add(arrayRecord(a))
+                            .add(controllerRecord(c));
     const SK_Core core(image.bytes().data(), image.size());
 
     ASSERT_STREQ(core.Disks[1]->Name, "/Route1/Device9 ");
     EXPECT_EQ(SK_FindDiskByName(core, "/Route1/Device9"), 1u);
     EXPECT_EQ(SK_FindDiskByName(core, "/Route1/Device10"), 2u);
-    for (const char *miss : {"/Route1/Device9 ", "/Route1/Device9  ", "/Route1/Device1",
-                             "/route1/Device9", ""})
+    for (const char *miss :
+         {"/Route1/Device9 ", "/Route1/Device9  ", "/Route1/Device1", "/route1/Device9", ""})
         EXPECT_EQ(SK_FindDiskByName(core, miss), 3u) << '"' << miss << '"';
     EXPECT_EQ(SK_FindDiskByName(core, nullptr), 3u);
     EXPECT_EQ(SK_FindDiskById(core, 0), 3u) << "the record's ID is 0, yet 0 finds nothing";
@@ -160,13 +164,13 @@ TEST(DeviceLists, twoListsAreJudgedTogether)
     const Case cases[] = {
         {{kCore1, kCore1Upper}, {}, false, false, 1, 1},
         {{kCore1}, {kCore1Upper}, false, false, 1, 1},
-        {{}, {}, false, false, 63, 0},                 // both empty
-        {{kCore1}, {kCore1}, true, true, 63, 0},       // both null
-        {{}, {kCore1}, true, false, 63, 0},            // first null
-        {{kCore2}, {}, false, false, 63, 0},           // core two alone
-        {{kCore1, kCore2}, {}, false, false, 63, 0},   // two cores in one list
-        {{kCore1, kNoCore}, {}, false, false, 63, 0},  // a name without a core
-        {{kCore1}, {kCore2}, false, false, 63, 0},     // second names core two only
+        {{}, {}, false, false, 63, 0},                    // both empty
+        {{kCore1}, {kCore1}, true, true, 63, 0},          // both null
+        {{}, {kCore1}, true, false, 63, 0},               // first null
+        {{kCore2}, {}, false, false, 63, 0},              // core two alone
+        {{kCore1, kCore2}, {}, false, false, 63, 0},      // two cores in one list
+        {{kCore1, kNoCore}, {}, false, false, 63, 0},     // a name without a core
+        {{kCore1}, {kCore2}, false, false, 63, 0},        // second names core two only
         {{kCore1}, {kCore1, kCore2}, false, false, 1, 1}, // a mixed second has no core
         {{kCore1, kCore2}, {kCore1}, false, false, 61, 0},
     };
@@ -323,8 +327,11 @@ Bytes withArray(long long length, long long members = -1)
     Array a;
     a.lengthOverride = length;
     a.countOverride[1] = members;
-    return Image().add(diskRecord(Disk{}, 128)).add(arrayRecord(a)).add(
-        enclosureRecord(Enclosure{})).bytes();
+    return Image()
+        .add(diskRecord(Disk{}, 128))
+        .add(arrayRecord(a))
+        .add(enclosureRecord(Enclosure{}))
+        .bytes();
 }
 
 const Bytes kDisk = diskRecord(Disk{}, 128);
@@ -334,16 +341,15 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         ImageCase{"valid", withArray(-1), 1, 1, 1, 1},
         ImageCase{"header only", Image().bytes(), 1, 0, 0, 0},
-        ImageCase{"unknown tag ends the list", Image().add(kDisk).word(77).add(kDisk).bytes(), 1,
-                  1, 0, 0},
+        ImageCase{"unknown tag ends the list", Image().add(kDisk).word(77).add(kDisk).bytes(), 1, 1,
+                  0, 0},
         ImageCase{"stray bytes at the end", cut(Image().add(kDisk).add(kDisk), 126), 1, 1, 0, 0},
         ImageCase{"shorter than its header", Bytes(100, 0), 27, 0, 0, 0},
         ImageCase{"zero-length array", withArray(0), 27, 1, 0, 0},
         ImageCase{"array shorter than its fixed part", withArray(511), 27, 1, 0, 0},
         ImageCase{"array past the image", withArray(0x7FFFFFFF), 27, 1, 0, 0},
-        ImageCase{"array cut before its length field", cut(Image().add(kDisk).add(arrayRecord(
-                                                               Array{})), 500),
-                  27, 1, 0, 0},
+        ImageCase{"array cut before its length field",
+                  cut(Image().add(kDisk).add(arrayRecord(Array{})), 500), 27, 1, 0, 0},
         ImageCase{"disk running past the image", cut(Image().add(kDisk).add(kDisk), 10), 27, 1, 0,
                   0},
         ImageCase{"array tables past its record", withArray(-1, 40), 27, 1, 1, 1}),

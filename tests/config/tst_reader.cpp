@@ -38,15 +38,14 @@ TEST_P(Tokenizer, splitsTheTextAsTheReportIsWritten)
     EXPECT_EQ(SK_NextToken(t.get()), nullptr) << "the end stays the end";
 }
 
-
 INSTANTIATE_TEST_SUITE_P(
     Lexical, Tokenizer,
     ::testing::Values(
-        LexCase{"empty text", "", {}},
-        LexCase{"only delimiters", " \r\n  \n", {}},
+        LexCase{"empty text", "", {}}, LexCase{"only delimiters", " \r\n  \n", {}},
         LexCase{"blanks and line ends separate", "A: 1\r\nB:  2 \n", {"A:", "1", "B:", "2"}},
         LexCase{"last token without delimiter", "A: xyz", {"A:", "xyz"}},
-        LexCase{"carets keep blanks", "MO: ^Big Disk 1TB^ SN: x", {"MO:", "Big Disk 1TB", "SN:", "x"}},
+        LexCase{
+            "carets keep blanks", "MO: ^Big Disk 1TB^ SN: x", {"MO:", "Big Disk 1TB", "SN:", "x"}},
         LexCase{"leading blanks inside carets", "SN: ^   ABC^ ", {"SN:", "   ABC"}},
         LexCase{"empty caret value", "DP: ^^ LE: 0", {"DP:", "", "LE:", "0"}},
         LexCase{"caret value then line end", "DP: ^A B^  \nLE: 1", {"DP:", "A B", "LE:", "1"}},
@@ -80,8 +79,7 @@ std::string disk(int index, int device = 3, const std::string &gs = "N")
 {
     return "PD: " + std::to_string(index) + " TY: Disk ST: Online ID: 0x" +
            std::to_string(100 + index) + " NM: //./Core1/Route1/Device" + std::to_string(device) +
-           "  CD: 0 CH: 2 RT: 1 HD: " + std::to_string(device) +
-           " FE: 0x4 GS: " + gs +
+           "  CD: 0 CH: 2 RT: 1 HD: " + std::to_string(device) + " FE: 0x4 GS: " + gs +
            " SI: 0x1000 LS: 0x10 TS: 0x20 MO: ^M 1^ SN: ^ S1^ FW: 1.0 PT: 0x2 VI: ^V^ \n";
 }
 
@@ -109,8 +107,8 @@ std::string member(int index, int device = 3)
 
 std::string spare(int index, int device)
 {
-    return "SP: " + std::to_string(index) + " RT: 1 HD: " + std::to_string(device) +
-           " ID: 0x" + std::to_string(500 + device) + " \n";
+    return "SP: " + std::to_string(index) + " RT: 1 HD: " + std::to_string(device) + " ID: 0x" +
+           std::to_string(500 + device) + " \n";
 }
 
 std::string enclosure(int index)
@@ -163,24 +161,24 @@ TEST_P(Reports, endWithTheirResultAndKeepWhatWasReadBefore)
     testing::internal::CaptureStdout();
     EXPECT_EQ(parse(c.text), c.result);
     const std::string printed = testing::internal::GetCapturedStdout();
-    EXPECT_EQ(printed, std::string(c.what) == "missing CTS fails" ? "Failed to find CTS token\n" : "");
+    EXPECT_EQ(printed,
+              std::string(c.what) == "missing CTS fails" ? "Failed to find CTS token\n" : "");
     EXPECT_EQ(snapshot->ControllerCount, c.controllers);
     EXPECT_EQ(snapshot->DiskCount, c.disks);
     EXPECT_EQ(snapshot->ArrayCount, c.arrays);
     EXPECT_EQ(snapshot->EnclosureCount, c.enclosures);
 }
 
-
 INSTANTIATE_TEST_SUITE_P(
     Grammar, Reports,
     ::testing::Values(
         ReportCase{"empty report", "", 1, 0, 0, 0, 0},
         ReportCase{"size line only", "BufferSize: 21    \n", 1, 0, 0, 0, 0},
-        ReportCase{"size value over six digits is skipped", "BufferSize: 1234567 \n" + disk(0),
-                   1, 0, 1, 0, 0},
-        ReportCase{"whole report", "BufferSize: 1 \n" + kCore + kController + coreDisk(0) +
-                                       disk(1) + head(0, 1) + member(0) + spare(0, 4) +
-                                       enclosure(0),
+        ReportCase{"size value over six digits is skipped", "BufferSize: 1234567 \n" + disk(0), 1,
+                   0, 1, 0, 0},
+        ReportCase{"whole report",
+                   "BufferSize: 1 \n" + kCore + kController + coreDisk(0) + disk(1) + head(0, 1) +
+                       member(0) + spare(0, 4) + enclosure(0),
                    1, 1, 2, 1, 1},
         ReportCase{"core device line ends after its name", coreDisk(0) + disk(1), 1, 0, 2, 0, 0},
         ReportCase{"controller lines after the disks are not counted",
@@ -205,9 +203,10 @@ INSTANTIATE_TEST_SUITE_P(
         ReportCase{"disk line cut short fails", disk(0).substr(0, 120), 0, 0, 0, 0, 0},
         ReportCase{"array head cut short fails", head(0, 1).substr(0, 150), 0, 0, 0, 1, 0},
         ReportCase{"missing CTS fails", replaced(head(0, 1), "CTS: 64 ", ""), 0, 0, 0, 1, 0},
-        ReportCase{"missing TST fails on DS", replaced(head(0, 1), "TST: STARTED ", ""), 0, 0, 0,
-                   1, 0},
-        ReportCase{"core line with a wrong key fails", replaced(kCore, "GE:", "GX:"), 0, 0, 0, 0, 0},
+        ReportCase{"missing TST fails on DS", replaced(head(0, 1), "TST: STARTED ", ""), 0, 0, 0, 1,
+                   0},
+        ReportCase{"core line with a wrong key fails", replaced(kCore, "GE:", "GX:"), 0, 0, 0, 0,
+                   0},
         ReportCase{"parent line with a wrong key fails",
                    head(0, 1) + "PA: 0 RT: 0 HX: 7 ID: 0x66 \n", 0, 0, 0, 1, 0},
         ReportCase{"unknown disk type passes its line over",
@@ -279,10 +278,12 @@ TEST_F(ReaderTest, recordsInARowWithOneDeviceNumberShareASlot)
     ASSERT_EQ(snapshot->ArrayCount, 3);
     EXPECT_EQ(snapshot->Arrays[0].HalfCount, 2);
     EXPECT_EQ(std::uint64_t{snapshot->Arrays[0].Half[0].ArrayId}, 1u);
-    EXPECT_EQ(std::uint64_t{snapshot->Arrays[0].Half[1].ArrayId}, 3u) << "a third overwrites the second half";
+    EXPECT_EQ(std::uint64_t{snapshot->Arrays[0].Half[1].ArrayId}, 3u)
+        << "a third overwrites the second half";
     EXPECT_EQ(snapshot->Arrays[1].HalfCount, 1);
     EXPECT_EQ(std::uint64_t{snapshot->Arrays[1].Half[0].ArrayId}, 4u);
-    EXPECT_EQ(std::uint64_t{snapshot->Arrays[2].Half[0].ArrayId}, 5u) << "not in a row: a slot of its own";
+    EXPECT_EQ(std::uint64_t{snapshot->Arrays[2].Half[0].ArrayId}, 5u)
+        << "not in a row: a slot of its own";
 }
 
 TEST_F(ReaderTest, oversizedOrMissingTextFailsWithEmptyCounts)
@@ -362,16 +363,16 @@ TEST_P(RoundTrip, everyRecordReachesTheSnapshot)
     for (std::size_t i = 0; i < config.disks.size(); ++i) {
         const Disk &d = config.disks[i];
         const SK_ConfigDisk &s = snapshot->Disks[i + first];
-        EXPECT_EQ(join(s.Type, s.State, std::uint64_t{s.DiskId}, s.Name, s.ControllerNumber,
-                       s.Channel, s.Route, s.Device, s.GlobalSpare,
-                       std::uint64_t{s.LargestFreeSpace} + s.TotalFreeSpace, s.Model,
-                       s.SerialNumber, s.FirmwareRevision, s.VendorId),
-                  join(SK_DeviceTypeWord(d.type), SK_DeviceStateWord(d.state), d.id,
-                       "//./Core1/Route" + std::to_string(d.core) + "/Device" +
-                           std::to_string(d.device),
-                       d.controllerDigit - '0', d.channelDigit - '0', d.core, d.device,
-                       d.spare == 256 ? 1 : 0, d.largest + d.total, safe(d.model),
-                       safe(d.serial, ' '), safe(d.firmware, ' '), safe(d.vendor)));
+        EXPECT_EQ(
+            join(s.Type, s.State, std::uint64_t{s.DiskId}, s.Name, s.ControllerNumber, s.Channel,
+                 s.Route, s.Device, s.GlobalSpare,
+                 std::uint64_t{s.LargestFreeSpace} + s.TotalFreeSpace, s.Model, s.SerialNumber,
+                 s.FirmwareRevision, s.VendorId),
+            join(SK_DeviceTypeWord(d.type), SK_DeviceStateWord(d.state), d.id,
+                 "//./Core1/Route" + std::to_string(d.core) + "/Device" + std::to_string(d.device),
+                 d.controllerDigit - '0', d.channelDigit - '0', d.core, d.device,
+                 d.spare == 256 ? 1 : 0, d.largest + d.total, safe(d.model), safe(d.serial, ' '),
+                 safe(d.firmware, ' '), safe(d.vendor)));
     }
 
     // Consecutive arrays with one device number share a slot.
@@ -382,20 +383,20 @@ TEST_P(RoundTrip, everyRecordReachesTheSnapshot)
         slot += shared ? 0 : 1;
         ASSERT_LT(slot, snapshot->ArrayCount);
         const SK_ConfigArray &s = snapshot->Arrays[slot].Half[shared ? 1 : 0];
-        EXPECT_EQ(join(std::uint64_t{s.ArrayId}, s.Device, s.State, s.Type, s.Cache,
-                       s.Generation, s.TransformPercentComplete, s.TransformType,
-                       s.TransformState, s.Attributes, s.DisplayName, s.OsName, s.SpareCount),
+        EXPECT_EQ(join(std::uint64_t{s.ArrayId}, s.Device, s.State, s.Type, s.Cache, s.Generation,
+                       s.TransformPercentComplete, s.TransformType, s.TransformState, s.Attributes,
+                       s.DisplayName, s.OsName, s.SpareCount),
                   join(a.id, a.device, SK_ArrayStateWord(a.state, a.task),
                        SK_ArrayTypeWord(SK_ArrayTypeIndexOf(a.type, a.first, a.second)),
                        SK_CachePolicyWord(a.cache), a.generation & 0xFFFFFFFFu,
                        SK_PercentComplete(a.percent), SK_TaskTypeWord(a.task),
-                       SK_TaskStateWord(a.taskState), a.attributes & 0xFFFFu,
-                       safe(a.displayName), "NONE", a.spares.size()));
+                       SK_TaskStateWord(a.taskState), a.attributes & 0xFFFFu, safe(a.displayName),
+                       "NONE", a.spares.size()));
         for (std::size_t m = 0; m < a.members.size(); ++m) {
             const SK_ConfigMember &sm = s.Members[m];
-            EXPECT_EQ(join(std::uint64_t{sm.DiskId}, sm.Device, sm.Error),
-                      join(a.members[m].id, a.members[m].device,
-                           SK_MemberFlagsWord(a.members[m].flags)));
+            EXPECT_EQ(
+                join(std::uint64_t{sm.DiskId}, sm.Device, sm.Error),
+                join(a.members[m].id, a.members[m].device, SK_MemberFlagsWord(a.members[m].flags)));
         }
         for (std::size_t p = 0; p < a.spares.size(); ++p)
             EXPECT_EQ(std::uint64_t{s.Spares[p].DiskId}, a.spares[p].id);

@@ -119,8 +119,7 @@ TEST_F(ReportTest, taggedFormNestsTheRecordsAndEscapesAmpersandsInTheArrayName)
     EXPECT_NE(text.find("\n  <Controller>\n    <Number>0</Number>\n"), std::string::npos);
     EXPECT_NE(text.find("<PCILocation>0x00000005</PCILocation>"), std::string::npos);
     EXPECT_NE(text.find("<DeviceName>Fast &amp; safe</DeviceName>"), std::string::npos);
-    EXPECT_NE(text.find("      <Error>NoError</Error>\n    </LogicalElement>"),
-              std::string::npos);
+    EXPECT_NE(text.find("      <Error>NoError</Error>\n    </LogicalElement>"), std::string::npos);
     EXPECT_NE(text.find("<TransformPercentComplete>0.0000</TransformPercentComplete>"),
               std::string::npos);
     EXPECT_EQ(text.substr(text.size() - 8), "</Core>\n");
@@ -187,8 +186,8 @@ TEST_F(ReportTest, operatingSystemNameIsLookedUpOnlyForVisibleArraysWhenAsked)
     Array unknown;
     unknown.device = 6;
     host->view.osDisks = {{4, 12}, {5, 13}};
-    const Image image = Image(1).add(arrayRecord(visible)).add(arrayRecord(hidden)).add(
-        arrayRecord(unknown));
+    const Image image =
+        Image(1).add(arrayRecord(visible)).add(arrayRecord(hidden)).add(arrayRecord(unknown));
 
     const std::string resolved = report(image, 1, 0, 1);
     EXPECT_NE(resolved.find("Device4  OSN: 12 "), std::string::npos);
@@ -268,11 +267,10 @@ TEST(VendorReport, isFixedAndLeavesItsSizeFieldAlone)
 {
     std::string buffer(SK_REPORT_MIN_SIZE, '\0');
     ASSERT_EQ(SK_ApiGetDellConfigString(&buffer[0], SK_REPORT_MIN_SIZE), 1u);
-    EXPECT_EQ(std::string(buffer.c_str()),
-              "BufferSize:         \n  **Device**\n"
-              "                  DeviceName = HDDCONTROLLER0\n"
-              "              DeviceMnemonic = VORRAID:0\n"
-              "            DeviceTypeString = VORRAID\n");
+    EXPECT_EQ(std::string(buffer.c_str()), "BufferSize:         \n  **Device**\n"
+                                           "                  DeviceName = HDDCONTROLLER0\n"
+                                           "              DeviceMnemonic = VORRAID:0\n"
+                                           "            DeviceTypeString = VORRAID\n");
     EXPECT_EQ(SK_ApiGetDellConfigString(&buffer[0], SK_REPORT_MIN_SIZE - 1), 26u);
     EXPECT_EQ(SK_ApiGetDellConfigString(nullptr, SK_REPORT_MIN_SIZE), 7u);
 }

@@ -112,8 +112,7 @@ INSTANTIATE_TEST_SUITE_P(
                       PathCase{"//.,Core1,Route3,Device12", true, "\\\\.\\Device3_12"},
                       PathCase{"//./CORE1/R4/D0", true, "\\\\.\\SKConfig0"},
                       PathCase{"//./Core1", true, "\\\\.\\SKConfig0"},
-                      PathCase{"//./Core/Route0/Device0", false, ""},
-                      PathCase{"////", false, ""},
+                      PathCase{"//./Core/Route0/Device0", false, ""}, PathCase{"////", false, ""},
                       PathCase{"\\\\.\\BKConfig0", true, "\\\\.\\BKConfig0"},
                       PathCase{"C:/file.bin", true, "C:/file.bin"}));
 

@@ -50,8 +50,14 @@ public:
         : m_buffer(std::make_unique<SKTL_AlignedBuffer>(size, "test")), m_size(size)
     {
     }
-    Request &u32(std::size_t at, std::uint32_t v) { return SK_PutU32(m_buffer->data(), at, v), *this; }
-    Request &u64(std::size_t at, std::uint64_t v) { return SK_PutU64(m_buffer->data(), at, v), *this; }
+    Request &u32(std::size_t at, std::uint32_t v)
+    {
+        return SK_PutU32(m_buffer->data(), at, v), *this;
+    }
+    Request &u64(std::size_t at, std::uint64_t v)
+    {
+        return SK_PutU64(m_buffer->data(), at, v), *this;
+    }
     Request &text(std::size_t at, const char *t)
     {
         std::memcpy(m_buffer->data() + at, t, std::strlen(t));
@@ -230,17 +236,46 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"unknown disk", nullptr, 7158, 1, 2, {0xD00, 0xDFF}, 100, 11},
         Refusal{"the same disk twice", nullptr, 7158, 1, 2, {0xD00, 0xD00}, 100, 44},
         Refusal{"a disk with SMART errors",
-                [](Model &m) { m.disks[1].state = code::DiskSmartError; }, 7158, 1, 2,
-                {0xD00, 0xD01}, 100, 75},
-        Refusal{"an offline disk", [](Model &m) { m.disks[1].state = code::DiskOffline; }, 7158,
-                1, 2, {0xD00, 0xD01}, 100, 42},
-        Refusal{"a global spare", [](Model &m) { m.disks[1].globalSpare = true; }, 7158, 1, 2,
-                {0xD00, 0xD01}, 100, 77},
-        Refusal{"a disabled level", [](Model &m) { m.host.disabledLevels = {"RAID6"}; }, 7162, 1,
-                4, {0xD00, 0xD01, 0xD02, 0xD03}, 100, 56},
+                [](Model &m) { m.disks[1].state = code::DiskSmartError; },
+                7158,
+                1,
+                2,
+                {0xD00, 0xD01},
+                100,
+                75},
+        Refusal{"an offline disk",
+                [](Model &m) { m.disks[1].state = code::DiskOffline; },
+                7158,
+                1,
+                2,
+                {0xD00, 0xD01},
+                100,
+                42},
+        Refusal{"a global spare",
+                [](Model &m) { m.disks[1].globalSpare = true; },
+                7158,
+                1,
+                2,
+                {0xD00, 0xD01},
+                100,
+                77},
+        Refusal{"a disabled level",
+                [](Model &m) { m.host.disabledLevels = {"RAID6"}; },
+                7162,
+                1,
+                4,
+                {0xD00, 0xD01, 0xD02, 0xD03},
+                100,
+                56},
         Refusal{"more than fits", nullptr, 7158, 1, 2, {0xD00, 0xD01}, kMemberMiB + 1, 45},
-        Refusal{"counts that don't match the disks", nullptr, 7157, 1, 4, {0xD00, 0xD01, 0xD02},
-                100, 7},
+        Refusal{"counts that don't match the disks",
+                nullptr,
+                7157,
+                1,
+                4,
+                {0xD00, 0xD01, 0xD02},
+                100,
+                7},
         Refusal{"RAID5 of two", nullptr, 7157, 1, 2, {0xD00, 0xD01}, 100, 7},
         Refusal{"a type the drivers don't build", nullptr, 7160, 1, 2, {0xD00, 0xD01}, 100, 43},
         Refusal{"an ID already in use",
@@ -250,7 +285,12 @@ INSTANTIATE_TEST_SUITE_P(
                     a.route = 1;
                     m.arrays.push_back(a);
                 },
-                7158, 1, 2, {0xD00, 0xD01}, 100, 44},
+                7158,
+                1,
+                2,
+                {0xD00, 0xD01},
+                100,
+                44},
         Refusal{"full disks",
                 [](Model &m) {
                     Array a;
@@ -261,7 +301,12 @@ INSTANTIATE_TEST_SUITE_P(
                                         Member{0xD01, 0, 1000000, 0, 1000000, 0}};
                     m.arrays.push_back(a);
                 },
-                7158, 1, 2, {0xD00, 0xD01}, 100, 45}));
+                7158,
+                1,
+                2,
+                {0xD00, 0xD01},
+                100,
+                45}));
 
 TEST_F(Commands, transformGrowsTheArrayWhileShowingBothLayouts)
 {
@@ -451,8 +496,8 @@ TEST_F(Commands, diskSettingsAndSmartData)
     const auto ata = manage(16404, 0xD00);
     ASSERT_EQ(ata.first, 1u);
     EXPECT_EQ(SK_GetU16(ata.second.data(), 0), 10u);
-    EXPECT_EQ(ata.second[2], 9u);   // attribute id
-    EXPECT_EQ(ata.second[5], 99u);  // current value
+    EXPECT_EQ(ata.second[2], 9u);                      // attribute id
+    EXPECT_EQ(ata.second[5], 99u);                     // current value
     EXPECT_EQ(SK_GetU16(ata.second.data(), 7), 1234u); // raw value, low bytes
 
     const auto nvme = manage(16400, 0xD07);
@@ -554,15 +599,15 @@ TEST_F(Commands, scriptedSessionShowsEveryStepInTheImageAndTheLog)
     remove.u32(36, 1).array(40, 0xA1, 1);
     ASSERT_EQ(write(remove, 3), 1u);
 
-    EXPECT_EQ(events(), (std::vector<std::uint16_t>{
-                            1037,             // created
-                            1141, 1024,       // checked
-                            1140, 1021,       // grown to four disks
-                            1132,             // a global spare
-                            1141, 1013, 1015, // a check, then a member fails
-                            1025, 1139, 1018, // the check fails, the spare is rebuilt
-                            1168,             // secure erase
-                            1014}));          // deleted
+    EXPECT_EQ(events(),
+              (std::vector<std::uint16_t>{1037,             // created
+                                          1141, 1024,       // checked
+                                          1140, 1021,       // grown to four disks
+                                          1132,             // a global spare
+                                          1141, 1013, 1015, // a check, then a member fails
+                                          1025, 1139, 1018, // the check fails, the spare is rebuilt
+                                          1168,             // secure erase
+                                          1014}));          // deleted
     SK_Core core(".", "Core1", 0);
     EXPECT_EQ(core.ArrayCount, 0u);
     EXPECT_EQ(core.DiskCount, 9u);

@@ -95,8 +95,7 @@ TEST_F(Faults, secondLossBeyondParityTakesTheArrayOffline)
     // A pulled disk stays listed, offline, until a rescan forgets it.
     ASSERT_NE(m.findDisk(hdd2), nullptr);
     EXPECT_FALSE(m.findDisk(hdd2)->attached);
-    EXPECT_EQ(m.arrays[1].layout.members[1].flags,
-              code::MemberNotPresent | code::MemberOffline);
+    EXPECT_EQ(m.arrays[1].layout.members[1].flags, code::MemberNotPresent | code::MemberOffline);
 }
 
 TEST_F(Faults, insertedDiskIsAnnouncedAndWaitsForARescan)

@@ -80,19 +80,36 @@ INSTANTIATE_TEST_SUITE_P(
         TextCase{1014, 36, {7}, L"Array 7 has been deleted.", 1, 2},
         TextCase{1014, 40, {7}, L"Array 7 has been deleted.", 1, 2},
         TextCase{1013, 0, {0, 3}, L"Drive failed on controller 0 channel 3.", 1, 4},
-        TextCase{1154, 0, {1, 2, 5}, L"Array 5 assigned dedicated spare on controller 1 channel 2.",
-                 1, 2},
+        TextCase{1154,
+                 0,
+                 {1, 2, 5},
+                 L"Array 5 assigned dedicated spare on controller 1 channel 2.",
+                 1,
+                 2},
         TextCase{1052, 0, {0xBEEF, 0x12}, L"Block number low=0xbeef, high=0x12.", 1, 2},
         TextCase{1014, 0, {0xFFFFFFFBu}, L"Array -5 has been deleted.", 1, 2},
-        TextCase{4242, 0, {1, 2, 3, 4},
+        TextCase{4242,
+                 0,
+                 {1, 2, 3, 4},
                  L"Could not find message ID 4242 (0x1092) for translation, p1=0x1, p2=0x2, "
                  L"p3=0x3, p4=0x4.",
-                 0, 4},
+                 0,
+                 4},
         // Driver logs are outside data: numbers without a row never stop the console.
-        TextCase{0, 0, {}, L"Could not find message ID 0 (0x0) for translation, p1=0x0, p2=0x0, "
-                           L"p3=0x0, p4=0x0.", 0, 4},
-        TextCase{500, 0, {9}, L"Could not find message ID 500 (0x1f4) for translation, p1=0x9, "
-                              L"p2=0x0, p3=0x0, p4=0x0.", 0, 4}));
+        TextCase{0,
+                 0,
+                 {},
+                 L"Could not find message ID 0 (0x0) for translation, p1=0x0, p2=0x0, "
+                 L"p3=0x0, p4=0x0.",
+                 0,
+                 4},
+        TextCase{500,
+                 0,
+                 {9},
+                 L"Could not find message ID 500 (0x1f4) for translation, p1=0x9, "
+                 L"p2=0x0, p3=0x0, p4=0x0.",
+                 0,
+                 4}));
 
 TEST(TraceRecords, areIndentedByTheirDepthWhichStaysBetweenZeroAndForty)
 {
@@ -101,7 +118,8 @@ TEST(TraceRecords, areIndentedByTheirDepthWhichStaysBetweenZeroAndForty)
     EXPECT_EQ(entering, std::wstring(40, L' ') + L"TRACE: Entering Routine, NestID: 0x0000001A, "
                                                  L"Routine: bogus File: bogus, Line: 99");
     EXPECT_EQ(SK_TraceDepth(), 1);
-    EXPECT_EQ(translate(8, 0, {}), std::wstring(39, L' ') + L"*********** TRACE SUSPENDED ************");
+    EXPECT_EQ(translate(8, 0, {}),
+              std::wstring(39, L' ') + L"*********** TRACE SUSPENDED ************");
     EXPECT_EQ(translate(7, 0, {}).find(L"TRACE: Exiting"), 39u);
     EXPECT_EQ(SK_TraceDepth(), 0);
     translate(7, 0, {});

@@ -45,8 +45,8 @@ SK_HostIo ScriptedDevice::read(std::uint64_t session, std::uint64_t position, st
 SK_HostIo ScriptedDevice::write(std::uint64_t session, std::uint64_t position,
                                 const std::uint8_t *data, std::uint32_t size)
 {
-    transfers.push_back(
-        {false, m_sessionDevice[session], position, size, std::vector<std::uint8_t>(data, data + size)});
+    transfers.push_back({false, m_sessionDevice[session], position, size,
+                         std::vector<std::uint8_t>(data, data + size)});
     SK_HostIo io;
     io.bytes = size;
     if (!writeErrors.empty()) {
