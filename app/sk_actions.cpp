@@ -457,7 +457,10 @@ void SK_MainWindow::applyTheme(const QString &theme)
 {
     const bool light = theme == QLatin1String("light");
     (light ? lightAct : darkAct)->setChecked(true);
-    qApp->setStyleSheet(light ? QString::fromLatin1(kLightStyleSheet) : darkStyleSheet());
+    // Setting the sheet repolishes every widget; skip that when nothing changes.
+    const QString sheet = light ? QString::fromLatin1(kLightStyleSheet) : darkStyleSheet();
+    if (qApp->styleSheet() != sheet)
+        qApp->setStyleSheet(sheet);
 }
 
 void SK_MainWindow::applyIconSize(const QString &size)

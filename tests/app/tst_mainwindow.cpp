@@ -84,6 +84,10 @@ private slots:
     void statusBarShowsTheDriversFigures();
     void missingDriversAreReported();
     void windowStateSurvivesARestart();
+    void writeBackWarningRefusedSendsNothing();
+    void hideAndDeleteAskFirst();
+    void createStopsAtTwelveArrays();
+    void themeChoiceIsStoredAndApplied();
 
 private:
     void waitForArrays(SK_MainWindow &window, int count);
@@ -330,8 +334,7 @@ void tst_MainWindow::missingDriversAreReported()
     auto *box = none.findChild<QMessageBox *>(QStringLiteral("noDriverMessage"));
     QVERIFY2(box, "no box about the missing drivers");
     QVERIFY(box->text().startsWith(QStringLiteral("Unable to find the VOR RAID drivers")));
-    box->disconnect(); // OK would quit the test's event loop
-    box->close();
+    box->done(QMessageBox::Cancel); // OK would quit the test's event loop
 }
 
 void tst_MainWindow::windowStateSurvivesARestart()
@@ -344,6 +347,87 @@ void tst_MainWindow::windowStateSurvivesARestart()
     QVERIFY(QSettings().contains(QStringLiteral("diskListHeaderState")));
     SK_MainWindow again;
     QCOMPARE(again.size(), QSize(900, 600));
+}
+
+void tst_MainWindow::writeBackWarningRefusedSendsNothing()
+{
+    SK_MainWindow window;
+    waitForArrays(window, 2);
+    pickArray(window, kData); // its cache reads "R"
+    QString question;
+    answerNextBox(&question, QMessageBox::No);
+    action(&window, "cacheWriteAct")->trigger();
+    QVERIFY(question.startsWith(QStringLiteral("If enabled Write Back Cache")));
+    QCOMPARE(m_host->host->model().findArrayByRoute(kData)->cachePolicy, 0x80000000u);
+
+    // From write-back to read and write-back goes without a question.
+    answerNextBox(nullptr, QMessageBox::Yes);
+    action(&window, "cacheWriteAct")->trigger();
+    QCOMPARE(m_host->host->model().findArrayByRoute(kData)->cachePolicy, 0x40000000u);
+    window.menu_refresh();
+    waitForArrays(window, 2);
+    action(&window, "cacheReadWriteAct")->trigger();
+    QCOMPARE(m_host->host->model().findArrayByRoute(kData)->cachePolicy, 0xC0000000u);
+}
+
+void tst_MainWindow::hideAndDeleteAskFirst()
+{
+    SK_MainWindow window;
+    waitForArrays(window, 2);
+    pickArray(window, kData);
+    QString question;
+    answerNextBox(&question, QMessageBox::Yes);
+    action(&window, "hideAct")->trigger();
+    QCOMPARE(question, QStringLiteral("Do you want to Hide Array 2: Data?"));
+    QVERIFY(m_host->host->model().findArrayByRoute(kData)->hidden());
+
+    waitForArrays(window, 2);
+    answerNextBox(&question, QMessageBox::No);
+    action(&window, "deleteAct")->trigger();
+    QCOMPARE(question, QStringLiteral("Do you want to delete Array 2: Data?"));
+    QVERIFY(m_host->host->model().findArrayByRoute(kData));
+
+    answerNextBox(nullptr, QMessageBox::Yes);
+    action(&window, "deleteAct")->trigger();
+    QVERIFY(!m_host->host->model().findArrayByRoute(kData));
+    QCOMPARE(window.currentArray(), 0u);
+    waitForArrays(window, 1);
+}
+
+void tst_MainWindow::createStopsAtTwelveArrays()
+{
+    m_host->host->modify([](sk_emu::Model &m) {
+        for (std::uint16_t route = 3; route <= 12; ++route) {
+            sk_emu::Array extra = m.arrays[1];
+            extra.id += route;
+            extra.route = route;
+            extra.name = "Extra" + std::to_string(route);
+            m.arrays.push_back(extra);
+        }
+        return true;
+    });
+    SK_MainWindow window;
+    QString text;
+    answerNextBox(&text);
+    action(&window, "createAct")->trigger();
+    QCOMPARE(text, QStringLiteral("The total number of arrays is limited to 12."));
+}
+
+void tst_MainWindow::themeChoiceIsStoredAndApplied()
+{
+    SK_MainWindow window;
+    QVERIFY(action(&window, "darkAct")->isChecked());
+    QVERIFY(qApp->styleSheet().contains(QStringLiteral("#37383a")));
+    action(&window, "lightAct")->trigger();
+    QCOMPARE(QSettings().value(QStringLiteral("ApplicationTheme")).toString(),
+             QStringLiteral("light"));
+    QVERIFY(qApp->styleSheet().startsWith(QStringLiteral("QMenu {background-color:#009966")));
+
+    action(&window, "largeFontAct")->trigger();
+    QCOMPARE(QSettings().value(QStringLiteral("ApplicationFontSize")).toString(),
+             QStringLiteral("largeFont"));
+    QCOMPARE(pane(&window, "eventList")->font().pointSize(), 12);
+    action(&window, "darkAct")->trigger();
 }
 
 QTEST_MAIN(tst_MainWindow)
