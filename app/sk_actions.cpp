@@ -10,13 +10,17 @@
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
 #include <QTreeWidget>
@@ -535,4 +539,42 @@ void SK_MainWindow::changeAppFontSize(QAction *action)
         menu->setFont(listFont);
     menu_refresh();
     adjustColumnWidths();
+}
+
+// A new language takes effect at the next start: the console quits and starts again.
+void SK_MainWindow::slotLanguageChanged(QAction *action)
+{
+    if (!action)
+        return;
+    const QString code = action->data().toString();
+    if (code == QSettings().value(SK_SettingsKey::ApplicationLanguage).toString())
+        return;
+    if (!confirm(tr("Restart %1 and change language to %2?")
+                     .arg(QCoreApplication::applicationName(), action->text()))) {
+        action->setChecked(false);
+        return;
+    }
+    QSettings().setValue(SK_SettingsKey::ApplicationLanguage, code);
+    QCoreApplication::quit();
+    const QStringList arguments = QCoreApplication::arguments();
+    QProcess::startDetached(arguments.value(0), arguments);
+}
+
+void SK_MainWindow::onStartupToggle_Form()
+{
+    auto *toggle = qobject_cast<QAction *>(sender());
+    if (!toggle)
+        return;
+    const QString link = QStandardPaths::writableLocation(QStandardPaths::ApplicationsLocation) +
+                         QDir::separator() + QStringLiteral("Startup") + QDir::separator() +
+                         QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName() +
+                         QStringLiteral(".lnk");
+    QSettings settings;
+    if (toggle->isChecked()) {
+        settings.setValue(SK_SettingsKey::ApplicationRunOnStartup, true);
+        QFile::link(QCoreApplication::applicationFilePath(), link);
+    } else {
+        QFile::remove(link);
+        settings.setValue(SK_SettingsKey::ApplicationRunOnStartup, false);
+    }
 }

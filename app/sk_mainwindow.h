@@ -112,6 +112,9 @@ public slots:
     void appThemeChanged(QAction *action);
     void changeAppIconSize(QAction *action);
     void changeAppFontSize(QAction *action);
+    // Kept for a language menu and a run-at-start entry; no action reaches them today.
+    void slotLanguageChanged(QAction *action);
+    void onStartupToggle_Form();
 
 private:
     // Construction steps
