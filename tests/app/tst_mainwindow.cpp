@@ -3,8 +3,8 @@
 
 #include "app/app.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QFile>
@@ -30,24 +30,6 @@ QAction *action(QWidget *window, const char *name)
 QTreeWidget *pane(QWidget *window, const char *name)
 {
     return window->findChild<QTreeWidget *>(QString::fromLatin1(name));
-}
-
-// Answers the next modal box with its default button, remembering its text.
-void answerNextBox(QString *text, QMessageBox::StandardButton button = QMessageBox::Ok)
-{
-    QTimer::singleShot(0, [text, button] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box) {
-            answerNextBox(text, button);
-            return;
-        }
-        if (text)
-            *text = box->text();
-        if (QAbstractButton *b = box->button(button))
-            b->click();
-        else
-            box->done(button);
-    });
 }
 
 // Clicks the array row of the array list, as a user picking the array would.
@@ -216,7 +198,7 @@ void tst_MainWindow::withoutRightsDestructiveEntriesStayOff()
         return false;
     });
     QString rights;
-    answerNextBox(&rights);
+    answerNextBox(QMessageBox::Ok, &rights);
     SK_MainWindow window;
     QVERIFY(rights.contains(QStringLiteral("Please run application as Administrator.")));
     waitForArrays(window, 2);
@@ -321,7 +303,7 @@ void tst_MainWindow::missingDriversAreReported()
         return true;
     });
     QString text;
-    answerNextBox(&text);
+    answerNextBox(QMessageBox::Ok, &text);
     SK_MainWindow window;
     QVERIFY(text.contains(QStringLiteral("Unable to find skcfg RAID driver")));
 
@@ -355,13 +337,13 @@ void tst_MainWindow::writeBackWarningRefusedSendsNothing()
     waitForArrays(window, 2);
     pickArray(window, kData); // its cache reads "R"
     QString question;
-    answerNextBox(&question, QMessageBox::No);
+    answerNextBox(QMessageBox::No, &question);
     action(&window, "cacheWriteAct")->trigger();
     QVERIFY(question.startsWith(QStringLiteral("If enabled Write Back Cache")));
     QCOMPARE(m_host->host->model().findArrayByRoute(kData)->cachePolicy, 0x80000000u);
 
     // From write-back to read and write-back goes without a question.
-    answerNextBox(nullptr, QMessageBox::Yes);
+    answerNextBox(QMessageBox::Yes);
     action(&window, "cacheWriteAct")->trigger();
     QCOMPARE(m_host->host->model().findArrayByRoute(kData)->cachePolicy, 0x40000000u);
     window.menu_refresh();
@@ -376,18 +358,18 @@ void tst_MainWindow::hideAndDeleteAskFirst()
     waitForArrays(window, 2);
     pickArray(window, kData);
     QString question;
-    answerNextBox(&question, QMessageBox::Yes);
+    answerNextBox(QMessageBox::Yes, &question);
     action(&window, "hideAct")->trigger();
     QCOMPARE(question, QStringLiteral("Do you want to Hide Array 2: Data?"));
     QVERIFY(m_host->host->model().findArrayByRoute(kData)->hidden());
 
     waitForArrays(window, 2);
-    answerNextBox(&question, QMessageBox::No);
+    answerNextBox(QMessageBox::No, &question);
     action(&window, "deleteAct")->trigger();
     QCOMPARE(question, QStringLiteral("Do you want to delete Array 2: Data?"));
     QVERIFY(m_host->host->model().findArrayByRoute(kData));
 
-    answerNextBox(nullptr, QMessageBox::Yes);
+    answerNextBox(QMessageBox::Yes);
     action(&window, "deleteAct")->trigger();
     QVERIFY(!m_host->host->model().findArrayByRoute(kData));
     QCOMPARE(window.currentArray(), 0u);
@@ -408,7 +390,7 @@ void tst_MainWindow::createStopsAtTwelveArrays()
     });
     SK_MainWindow window;
     QString text;
-    answerNextBox(&text);
+    answerNextBox(QMessageBox::Ok, &text);
     action(&window, "createAct")->trigger();
     QCOMPARE(text, QStringLiteral("The total number of arrays is limited to 12."));
 }

@@ -5,26 +5,22 @@
 #include "dialogs/dialogs.h"
 #include "emulator/emulator.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPalette>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardItemModel>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTextDocument>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QtTest>
-
-#include <functional>
 
 namespace {
 
@@ -35,15 +31,6 @@ constexpr int kSsdA = 1, kHdd1 = 3, kSpare = 6, kNvme = 7;
 constexpr int kData = 2;
 // Type rows of the dialogs' combo.
 constexpr int kVolumeRow = 0, kRaid0Row = 1, kRaid1Row = 2, kRaid10Row = 3, kRaid5Row = 4;
-
-template <typename T>
-T *widget(QWidget *dialog, const char *name)
-{
-    T *found = dialog->findChild<T *>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
 
 // Unused NVMe disks like the workstation's own, on the next free ports.
 void addNvmeDisks(EmulatedHostScope &scope, int count)
@@ -61,23 +48,6 @@ void addNvmeDisks(EmulatedHostScope &scope, int count)
     });
 }
 
-QTreeWidgetItem *rowOfDisk(QTreeWidget *list, int id)
-{
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt() == id)
-            return list->topLevelItem(i);
-    }
-    return nullptr;
-}
-
-QList<int> listedDisks(QTreeWidget *list)
-{
-    QList<int> ids;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        ids << list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt();
-    return ids;
-}
-
 QList<int> checkedDisks(QTreeWidget *list)
 {
     QList<int> ids;
@@ -90,13 +60,7 @@ QList<int> checkedDisks(QTreeWidget *list)
 
 void checkDisks(QWidget *dialog, const QList<int> &ids, Qt::CheckState state = Qt::Checked)
 {
-    auto *list = widget<QTreeWidget>(dialog, "diskList");
-    for (int id : ids) {
-        QTreeWidgetItem *row = rowOfDisk(list, id);
-        if (!row)
-            qFatal("disk %d is not listed", id);
-        row->setCheckState(0, state);
-    }
+    tickRows(widget<QTreeWidget>(dialog, "diskList"), ids, state, SK_Role::DeviceId);
 }
 
 QString plain(const QString &richText)
@@ -105,46 +69,6 @@ QString plain(const QString &richText)
     document.setHtml(richText);
     return document.toPlainText().trimmed();
 }
-
-// Answers the next message box with `button` once it is up, and notes its text.
-void answerNextBox(QMessageBox::StandardButton button, QStringList *texts)
-{
-    QTimer::singleShot(0, [button, texts] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box) {
-            answerNextBox(button, texts);
-            return;
-        }
-        if (texts)
-            *texts << box->text();
-        QAbstractButton *answer = box->button(button);
-        (answer ? answer : box->buttons().constFirst())->click();
-    });
-}
-
-// Answers every message box that comes up while it lives with `button`, noting texts.
-class BoxAnswerer
-{
-public:
-    explicit BoxAnswerer(QMessageBox::StandardButton button)
-    {
-        QObject::connect(&timer, &QTimer::timeout, [this, button] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box || box->property("answered").toBool())
-                return;
-            box->setProperty("answered", true);
-            texts << box->text();
-            QAbstractButton *answer = box->button(button);
-            (answer ? answer : box->buttons().constFirst())->click();
-        });
-        timer.start(0);
-    }
-
-    QStringList texts;
-
-private:
-    QTimer timer;
-};
 
 // A hard disk like the data array's, unused, on the next free port: disk 8.
 void addHardDisk(EmulatedHostScope &scope)
@@ -182,24 +106,6 @@ const Array *arrayNamed(const Model &m, const std::string &name)
     return nullptr;
 }
 
-QPalette darkPalette()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(45, 45, 48));
-    p.setColor(QPalette::WindowText, Qt::white);
-    p.setColor(QPalette::Base, QColor(30, 30, 30));
-    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
-    p.setColor(QPalette::Text, Qt::white);
-    p.setColor(QPalette::Button, QColor(55, 55, 58));
-    p.setColor(QPalette::ButtonText, Qt::white);
-    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
-    return p;
-}
-
 } // namespace
 
 class TestArrayDialogs : public QObject
@@ -234,10 +140,7 @@ private:
 void TestArrayDialogs::initTestCase()
 {
     QVERIFY(settingsDir.isValid());
-    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+    keepSettingsIn(settingsDir.path());
 }
 
 void TestArrayDialogs::createListsDisksWithFreeSpace()
@@ -245,7 +148,7 @@ void TestArrayDialogs::createListsDisksWithFreeSpace()
     EmulatedHostScope scope;
     SK_CreateDialog dialog(QSize(16, 16));
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
-    const QList<int> listed = listedDisks(list);
+    const QList<int> listed = rowIds(list, SK_Role::DeviceId);
     QVERIFY2(listed.contains(kNvme), "the unused NVMe disk is offered");
     QVERIFY2(!listed.contains(kHdd1),
              "a member of the data array whose disk is all used has nothing to offer");
@@ -344,7 +247,7 @@ void TestArrayDialogs::createCapacityFollowsTheMaximumUntilTyped()
     QCOMPARE(plain(widget<QLabel>(&dialog, "createWarningLabel")->text()),
              QStringLiteral("Invalid Configuration: create size exceeds maximum possible size"));
     QVERIFY(!widget<QPushButton>(&dialog, "createButton")->isEnabled());
-    QTest::mouseClick(widget<QPushButton>(&dialog, "setMaxCapButton"), Qt::LeftButton);
+    click(&dialog, "setMaxCapButton");
     QCOMPARE(capacity->text(), maximum->text());
     QVERIFY(widget<QPushButton>(&dialog, "createButton")->isEnabled());
 }
@@ -386,7 +289,7 @@ void TestArrayDialogs::createCommitReachesTheDrivers()
     checkDisks(&dialog, {kNvme});
     widget<QLineEdit>(&dialog, "currentCapInput")->setText(QStringLiteral("250000"));
     widget<QLineEdit>(&dialog, "arrayNameInput")->setText(QStringLiteral("Scratch"));
-    QTest::mouseClick(widget<QPushButton>(&dialog, "createButton"), Qt::LeftButton);
+    click(&dialog, "createButton");
 
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     const Model m = scope.host->model();
@@ -407,7 +310,7 @@ void TestArrayDialogs::createRefusesABadNameWithoutCommand()
     widget<QLineEdit>(&dialog, "arrayNameInput")->setText(QStringLiteral("Data"));
     QStringList texts;
     answerNextBox(QMessageBox::Ok, &texts);
-    QTest::mouseClick(widget<QPushButton>(&dialog, "createButton"), Qt::LeftButton);
+    click(&dialog, "createButton");
 
     QCOMPARE(texts.size(), 1);
     QVERIFY2(texts.first().startsWith(QStringLiteral("Invalid name:")), qPrintable(texts.first()));
@@ -436,7 +339,7 @@ void TestArrayDialogs::createStopsWhenDriveMixingIsDeclined()
              qPrintable(widget<QLabel>(&dialog, "createWarningLabel")->text()));
     QStringList texts;
     answerNextBox(QMessageBox::No, &texts);
-    QTest::mouseClick(widget<QPushButton>(&dialog, "createButton"), Qt::LeftButton);
+    click(&dialog, "createButton");
 
     QCOMPARE(texts.size(), 1);
     QVERIFY2(texts.first().startsWith(QStringLiteral("Warning: drive mixing detected!")),
@@ -465,7 +368,7 @@ void TestArrayDialogs::transformListsTheArraysOwnDisks()
     EmulatedHostScope scope;
     SK_TransformDialog dialog(kData, QSize(16, 16));
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
-    const QList<int> listed = listedDisks(list);
+    const QList<int> listed = rowIds(list, SK_Role::DeviceId);
     QVERIFY2(listed.contains(kHdd1) && listed.contains(kHdd1 + 2),
              "the data array's own members are offered although they are full");
     QVERIFY2(!listed.contains(kSsdA), "a full disk of another array is left out");
@@ -484,7 +387,7 @@ void TestArrayDialogs::transformVerdictFollowsTheSelection()
     auto *label = widget<QLabel>(&dialog, "transformWarningLabel");
     QCOMPARE(plain(label->text()), QStringLiteral("Invalid Configuration: no disks were selected"));
 
-    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    click(&dialog, "sameButton");
     QCOMPARE(widget<QComboBox>(&dialog, "arrayTypeSel")->currentIndex(), kRaid5Row);
     QCOMPARE(checkedDisks(widget<QTreeWidget>(&dialog, "diskList")),
              (QList<int>{kHdd1, kHdd1 + 1, kHdd1 + 2}));
@@ -503,7 +406,7 @@ void TestArrayDialogs::transformCantShrinkTheArray()
     EmulatedHostScope scope;
     addHardDisk(scope);
     SK_TransformDialog dialog(kData, QSize(16, 16));
-    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    click(&dialog, "sameButton");
     checkDisks(&dialog, {8});
     auto *capacity = widget<QLineEdit>(&dialog, "capInput");
     const int current = widget<QLineEdit>(&dialog, "currentCapInput")->text().toInt();
@@ -523,14 +426,14 @@ void TestArrayDialogs::transformCommitStartsATask()
     EmulatedHostScope scope;
     addHardDisk(scope);
     SK_TransformDialog dialog(kData, QSize(16, 16));
-    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    click(&dialog, "sameButton");
     checkDisks(&dialog, {8});
-    QTest::mouseClick(widget<QPushButton>(&dialog, "setCurrentCapMaxButton"), Qt::LeftButton);
+    click(&dialog, "setCurrentCapMaxButton");
     const int wanted = widget<QLineEdit>(&dialog, "capInput")->text().toInt();
     QCOMPARE(wanted, widget<QLineEdit>(&dialog, "maxCapInput")->text().toInt());
 
     BoxAnswerer yes(QMessageBox::Yes);
-    QTest::mouseClick(widget<QPushButton>(&dialog, "commitButton"), Qt::LeftButton);
+    click(&dialog, "commitButton");
     QCOMPARE(yes.texts.size(), 1);
     QVERIFY2(yes.texts.first().contains("hot swappable"),
              "the data array's hard disks are hot swap disks");
@@ -548,7 +451,7 @@ void TestArrayDialogs::transformSeesTheArrayGone()
 {
     EmulatedHostScope scope;
     SK_TransformDialog dialog(kData, QSize(16, 16));
-    QTest::mouseClick(widget<QPushButton>(&dialog, "sameButton"), Qt::LeftButton);
+    click(&dialog, "sameButton");
     scope.host->modify([](Model &m) {
         m.arrays.pop_back();
         m.volumes.pop_back();
@@ -564,40 +467,25 @@ void TestArrayDialogs::transformSeesTheArrayGone()
 // set SK_DIALOG_SHOTS to a folder.
 void TestArrayDialogs::screenshots()
 {
-    const QString folder = qEnvironmentVariable("SK_DIALOG_SHOTS");
+    const QString folder = screenshotFolder();
     if (folder.isEmpty())
         QSKIP("SK_DIALOG_SHOTS is not set");
     EmulatedHostScope scope;
     addNvmeDisks(scope, 3);
-    const QPalette light = QApplication::palette();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const std::function<void(QWidget *, const QString &)> shoot = [&](QWidget *w,
-                                                                      const QString &name) {
-        for (const bool dark : {true, false}) {
-            QApplication::setPalette(dark ? darkPalette() : light);
-            w->show();
-            QVERIFY(QTest::qWaitForWindowExposed(w));
-            QTest::qWait(50);
-            const QString file =
-                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
-            QVERIFY2(w->grab().save(file), qPrintable(file));
-        }
-    };
+    Screenshots shots(folder);
     SK_CreateDialog create(QSize(16, 16));
     widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid10Row);
     checkDisks(&create, {kNvme, 8, 9, 10});
-    shoot(&create, QStringLiteral("create"));
+    shots.shoot(&create, QStringLiteral("create"));
     widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
     checkDisks(&create, {9, 10}, Qt::Unchecked);
-    shoot(&create, QStringLiteral("create_invalid"));
-    create.hide();
+    shots.shoot(&create, QStringLiteral("create_invalid"));
 
     addHardDisk(scope);
     SK_TransformDialog transform(kData, QSize(16, 16));
-    QTest::mouseClick(widget<QPushButton>(&transform, "sameButton"), Qt::LeftButton);
+    click(&transform, "sameButton");
     checkDisks(&transform, {11});
-    shoot(&transform, QStringLiteral("transform"));
-    QApplication::setPalette(light);
+    shots.shoot(&transform, QStringLiteral("transform"));
 }
 
 QTEST_MAIN(TestArrayDialogs)

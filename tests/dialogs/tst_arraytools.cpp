@@ -5,19 +5,17 @@
 #include "dialogs/dialogs.h"
 #include "emulator/emulator.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPalette>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QSlider>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <QtTest>
@@ -36,15 +34,6 @@ constexpr int kSystem = 1, kData = 2, kSpare = 6, kNvme = 7;
 // spare (cold), neither with a volume.
 constexpr int kFast = 3, kBulk = 4;
 constexpr std::uint64_t kGiB = 2097152; // sectors
-
-template <typename T>
-T *widget(QWidget *dialog, const char *name)
-{
-    T *found = dialog->findChild<T *>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
 
 Array &arrayOf(Model &m, int route)
 {
@@ -106,56 +95,10 @@ void runningCheck(EmulatedHostScope &scope, int route, std::uint32_t priority)
     });
 }
 
-void click(QWidget *dialog, const char *button)
-{
-    QTest::mouseClick(widget<QAbstractButton>(dialog, button), Qt::LeftButton);
-}
-
-QList<int> rowIds(QTreeWidget *list)
-{
-    QList<int> ids;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        ids << list->topLevelItem(i)->data(0, Qt::UserRole).toInt();
-    return ids;
-}
-
-QTreeWidgetItem *rowOf(QTreeWidget *list, int id)
-{
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->data(0, Qt::UserRole).toInt() == id)
-            return list->topLevelItem(i);
-    }
-    qFatal("array %d is not listed", id);
-    return nullptr;
-}
-
 void tick(QTreeWidget *list, int id)
 {
-    rowOf(list, id)->setCheckState(0, Qt::Checked);
+    tickRows(list, {id});
 }
-
-// Answers each message box that comes up with `button`, noting its text.
-class BoxAnswerer
-{
-public:
-    explicit BoxAnswerer(QMessageBox::StandardButton button) : answer(button)
-    {
-        QObject::connect(&timer, &QTimer::timeout, [this] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            texts << box->text();
-            QAbstractButton *b = box->button(answer);
-            (b ? b : box->buttons().constFirst())->click();
-        });
-        timer.start(0);
-    }
-    QStringList texts;
-
-private:
-    QMessageBox::StandardButton answer;
-    QTimer timer;
-};
 
 int tierCount(const Model &m)
 {
@@ -205,10 +148,7 @@ private:
 void TestArrayTools::initTestCase()
 {
     QVERIFY(settingsDir.isValid());
-    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+    keepSettingsIn(settingsDir.path());
 }
 
 // Each test opens its dialogs as on a first run: a saved header would bring back the
@@ -348,19 +288,19 @@ void TestArrayTools::deleteListDisablesSystemArrays()
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     QCOMPARE(rowIds(list), (QList<int>{kSystem, kData, kBulk}));
     QCOMPARE(list->headerItem()->text(8), QStringLiteral("Cache"));
-    QVERIFY(rowOf(list, kSystem)->isDisabled());
-    QCOMPARE(rowOf(list, kSystem)->text(2), QStringLiteral("Yes"));
-    QCOMPARE(rowOf(list, kData)->text(2), QStringLiteral("No"));
-    QCOMPARE(rowOf(list, kData)->text(3), QStringLiteral("D:"));
-    QCOMPARE(rowOf(list, kBulk)->text(1), QStringLiteral("Hidden"));
+    QVERIFY(listedRow(list, kSystem)->isDisabled());
+    QCOMPARE(listedRow(list, kSystem)->text(2), QStringLiteral("Yes"));
+    QCOMPARE(listedRow(list, kData)->text(2), QStringLiteral("No"));
+    QCOMPARE(listedRow(list, kData)->text(3), QStringLiteral("D:"));
+    QCOMPARE(listedRow(list, kBulk)->text(1), QStringLiteral("Hidden"));
     QVERIFY(!widget<QPushButton>(&dialog, "deleteButton")->isEnabled());
 
     click(&dialog, "selectAllButton");
-    QCOMPARE(rowOf(list, kSystem)->checkState(0), Qt::Unchecked);
-    QCOMPARE(rowOf(list, kData)->checkState(0), Qt::Checked);
+    QCOMPARE(listedRow(list, kSystem)->checkState(0), Qt::Unchecked);
+    QCOMPARE(listedRow(list, kData)->checkState(0), Qt::Checked);
     QVERIFY(widget<QPushButton>(&dialog, "deleteButton")->isEnabled());
-    rowOf(list, kData)->setCheckState(0, Qt::Unchecked);
-    rowOf(list, kBulk)->setCheckState(0, Qt::Unchecked);
+    listedRow(list, kData)->setCheckState(0, Qt::Unchecked);
+    listedRow(list, kBulk)->setCheckState(0, Qt::Unchecked);
     QVERIFY(!widget<QPushButton>(&dialog, "deleteButton")->isEnabled());
 }
 
@@ -398,7 +338,7 @@ void TestArrayTools::deleteAnsweredNoKeepsTicksAndArrays()
     QTest::qWait(20);
     QVERIFY(dialog.isVisible());
     QVERIFY(!dialog.findChild<QProgressDialog *>());
-    QCOMPARE(rowOf(list, kData)->checkState(0), Qt::Checked);
+    QCOMPARE(listedRow(list, kData)->checkState(0), Qt::Checked);
     QVERIFY(findArray(scope.host->model(), kData));
 }
 
@@ -446,12 +386,12 @@ void TestArrayTools::deleteListDisablesTierParts()
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     QCOMPARE(list->topLevelItemCount(), 5);
     for (int part : {kFast, kBulk}) {
-        QVERIFY(rowOf(list, part)->isDisabled());
-        QVERIFY(rowOf(list, part)->text(2).isEmpty());
-        QVERIFY(rowOf(list, part)->text(3).isEmpty());
+        QVERIFY(listedRow(list, part)->isDisabled());
+        QVERIFY(listedRow(list, part)->text(2).isEmpty());
+        QVERIFY(listedRow(list, part)->text(3).isEmpty());
     }
     click(&dialog, "selectAllButton");
-    QCOMPARE(rowOf(list, kFast)->checkState(0), Qt::Unchecked);
+    QCOMPARE(listedRow(list, kFast)->checkState(0), Qt::Unchecked);
     QTreeWidgetItem *tierRow =
         list->findItems(QStringLiteral("RAIDTIER"), Qt::MatchExactly, 5).value(0);
     QVERIFY(tierRow);
@@ -470,7 +410,7 @@ void TestArrayTools::tieringListsHotAndColdArrays()
     QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
     QCOMPARE(widget<QLabel>(&dialog, "tierTypeLabel")->text(), QStringLiteral("Type"));
     QCOMPARE(widget<QComboBox>(&dialog, "tierTypeComboBox")->count(), 2);
-    QCOMPARE(rowOf(widget<QTreeWidget>(&dialog, "coldArrayList"), kData)->text(2),
+    QCOMPARE(listedRow(widget<QTreeWidget>(&dialog, "coldArrayList"), kData)->text(2),
              QStringLiteral("D:"));
 }
 
@@ -486,16 +426,16 @@ void TestArrayTools::tieringTickNarrowsTheOtherList()
     QCOMPARE(rowIds(hot), (QList<int>{kFast}));
     // A second tick in the same list takes the place of the first.
     tick(cold, kBulk);
-    QCOMPARE(rowOf(cold, kData)->checkState(0), Qt::Unchecked);
+    QCOMPARE(listedRow(cold, kData)->checkState(0), Qt::Unchecked);
     QCOMPARE(rowIds(hot), (QList<int>{kSystem, kFast}));
     tick(hot, kFast);
-    QCOMPARE(rowOf(cold, kBulk)->checkState(0), Qt::Checked);
+    QCOMPARE(listedRow(cold, kBulk)->checkState(0), Qt::Checked);
     // The cache combo refills both lists and keeps the ticks.
     widget<QComboBox>(&dialog, "cacheComboBox")->setCurrentIndex(1);
-    QCOMPARE(rowOf(cold, kBulk)->checkState(0), Qt::Checked);
-    QCOMPARE(rowOf(hot, kFast)->checkState(0), Qt::Checked);
+    QCOMPARE(listedRow(cold, kBulk)->checkState(0), Qt::Checked);
+    QCOMPARE(listedRow(hot, kFast)->checkState(0), Qt::Checked);
     QVERIFY(widget<QPushButton>(&dialog, "commitButton")->isEnabled());
-    rowOf(cold, kBulk)->setCheckState(0, Qt::Unchecked);
+    listedRow(cold, kBulk)->setCheckState(0, Qt::Unchecked);
     QCOMPARE(rowIds(hot), (QList<int>{kSystem, kFast}));
     QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
 }
@@ -575,51 +515,27 @@ void TestArrayTools::windowStateIsRestored()
 // set SK_DIALOG_SHOTS to a folder.
 void TestArrayTools::screenshots()
 {
-    const QString folder = qEnvironmentVariable("SK_DIALOG_SHOTS");
+    const QString folder = screenshotFolder();
     if (folder.isEmpty())
         QSKIP("SK_DIALOG_SHOTS is not set");
     EmulatedHostScope scope;
     addPlainPair(scope);
     runningCheck(scope, kData, 50);
-    const QPalette light = QApplication::palette();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QPalette dark;
-    dark.setColor(QPalette::Window, QColor(45, 45, 48));
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::Base, QColor(30, 30, 30));
-    dark.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::Button, QColor(55, 55, 58));
-    dark.setColor(QPalette::ButtonText, Qt::white);
-    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
-    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
-    const auto shoot = [&](QWidget *w, const QString &name) {
-        for (const bool isDark : {true, false}) {
-            QApplication::setPalette(isDark ? dark : light);
-            w->show();
-            QVERIFY(QTest::qWaitForWindowExposed(w));
-            QTest::qWait(50);
-            const QString file =
-                folder + QLatin1Char('/') + name + (isDark ? "_dark.png" : "_light.png");
-            QVERIFY2(w->grab().save(file), qPrintable(file));
-        }
-        w->hide();
-    };
+    Screenshots shots(folder);
     SK_TaskPriorityDialog priority(kData);
     priority.setWindowTitle(QStringLiteral("Task Priority"));
-    shoot(&priority, QStringLiteral("task_priority"));
+    shots.shoot(&priority, QStringLiteral("task_priority"));
     SK_ArrayNameDialog name(kData);
     name.setWindowTitle(QStringLiteral("Array Name"));
-    shoot(&name, QStringLiteral("array_name"));
+    shots.shoot(&name, QStringLiteral("array_name"));
     SK_DeleteForm form;
     form.setWindowTitle(QStringLiteral("Delete"));
     tick(widget<QTreeWidget>(&form, "arrayList"), kFast);
-    shoot(&form, QStringLiteral("delete_arrays"));
+    shots.shoot(&form, QStringLiteral("delete_arrays"));
     SK_TieringDialog tiering;
     tiering.setWindowTitle(QStringLiteral("Caching"));
     tick(widget<QTreeWidget>(&tiering, "coldArrayList"), kBulk);
-    shoot(&tiering, QStringLiteral("caching"));
-    QApplication::setPalette(light);
+    shots.shoot(&tiering, QStringLiteral("caching"));
     QSettings().clear();
 }
 

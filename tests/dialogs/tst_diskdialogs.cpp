@@ -5,16 +5,14 @@
 #include "dialogs/dialogs.h"
 #include "emulator/emulator.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <QtTest>
@@ -32,15 +30,6 @@ constexpr int kSsd1 = 1, kHdd1 = 3, kHdd2 = 4, kSpare = 6, kNvme = 7;
 constexpr int kSystem = 1, kData = 2;
 // Driver events of an initialised and of a cleared disk.
 constexpr std::uint16_t kInitialisedEvent = 1029, kClearedEvent = 1181;
-
-template <typename T>
-T *widget(QWidget *dialog, const char *name)
-{
-    T *found = dialog->findChild<T *>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
 
 std::uint64_t diskIdOf(const Model &m, int id)
 {
@@ -71,81 +60,16 @@ bool hasEvent(const Model &m, std::uint16_t message, std::uint32_t port)
                        [&](const Event &e) { return e.message == message && e.params[1] == port; });
 }
 
-QTreeWidgetItem *rowOfDisk(QTreeWidget *list, int id)
-{
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->data(0, Qt::UserRole).toInt() == id)
-            return list->topLevelItem(i);
-    }
-    return nullptr;
-}
-
 QList<int> listedDisks(QWidget *dialog)
 {
-    auto *list = widget<QTreeWidget>(dialog, "diskListTree");
-    QList<int> ids;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        ids << list->topLevelItem(i)->data(0, Qt::UserRole).toInt();
+    QList<int> ids = rowIds(widget<QTreeWidget>(dialog, "diskListTree"));
     std::sort(ids.begin(), ids.end());
     return ids;
 }
 
 void tick(QWidget *dialog, const QList<int> &ids)
 {
-    auto *list = widget<QTreeWidget>(dialog, "diskListTree");
-    for (int id : ids) {
-        QTreeWidgetItem *row = rowOfDisk(list, id);
-        if (!row)
-            qFatal("disk %d is not listed", id);
-        row->setCheckState(0, Qt::Checked);
-    }
-}
-
-void click(QWidget *dialog, const char *button)
-{
-    QTest::mouseClick(widget<QAbstractButton>(dialog, button), Qt::LeftButton);
-}
-
-// Answers each message box that comes up with `button`, noting its text, until the
-// test ends the watch by going out of scope.
-class BoxAnswerer
-{
-public:
-    explicit BoxAnswerer(QMessageBox::StandardButton button) : answer(button)
-    {
-        QObject::connect(&timer, &QTimer::timeout, [this] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            texts << box->text();
-            QAbstractButton *b = box->button(answer);
-            (b ? b : box->buttons().constFirst())->click();
-        });
-        timer.start(0);
-    }
-    QStringList texts;
-
-private:
-    QMessageBox::StandardButton answer;
-    QTimer timer;
-};
-
-QPalette darkPalette()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(45, 45, 48));
-    p.setColor(QPalette::WindowText, Qt::white);
-    p.setColor(QPalette::Base, QColor(30, 30, 30));
-    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
-    p.setColor(QPalette::Text, Qt::white);
-    p.setColor(QPalette::Button, QColor(55, 55, 58));
-    p.setColor(QPalette::ButtonText, Qt::white);
-    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
-    return p;
+    tickRows(widget<QTreeWidget>(dialog, "diskListTree"), ids);
 }
 
 using Change = std::function<void(Model &)>;
@@ -217,10 +141,7 @@ private:
 void TestDiskDialogs::initTestCase()
 {
     QVERIFY(settingsDir.isValid());
-    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+    keepSettingsIn(settingsDir.path());
 }
 
 // --- Disk options ---
@@ -468,17 +389,17 @@ void TestDiskDialogs::initialiseUnInitialisedButtonPicksNewDisks()
     });
     SK_initDisksDialog dialog;
     auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
-    QCOMPARE(rowOfDisk(list, kNvme)->text(2), QStringLiteral("New"));
+    QCOMPARE(rowWithId(list, kNvme)->text(2), QStringLiteral("New"));
     QVERIFY(widget<QPushButton>(&dialog, "selectUnInitButton")->isEnabled());
 
     tick(&dialog, {kHdd2});
     QVERIFY(widget<QPushButton>(&dialog, "initSelectedButton")->isEnabled());
     click(&dialog, "selectUnInitButton");
-    QCOMPARE(rowOfDisk(list, kNvme)->checkState(0), Qt::Checked);
-    QVERIFY2(rowOfDisk(list, kHdd2)->checkState(0) == Qt::Unchecked,
+    QCOMPARE(rowWithId(list, kNvme)->checkState(0), Qt::Checked);
+    QVERIFY2(rowWithId(list, kHdd2)->checkState(0) == Qt::Unchecked,
              "the button replaces the selection");
     click(&dialog, "selectAllButton");
-    QCOMPARE(rowOfDisk(list, kHdd2)->checkState(0), Qt::Checked);
+    QCOMPARE(rowWithId(list, kHdd2)->checkState(0), Qt::Checked);
 }
 
 void TestDiskDialogs::initialiseCommitReachesTheDrivers()
@@ -511,7 +432,7 @@ void TestDiskDialogs::initialiseRefusedByTheDriversStaysOpen()
     click(&dialog, "initSelectedButton");
     QCOMPARE(dialog.result(), int(QDialog::Rejected));
     QCOMPARE(scope.host->model().events.size(), events);
-    QCOMPARE(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme)->checkState(0),
+    QCOMPARE(rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme)->checkState(0),
              Qt::Checked);
 }
 
@@ -545,17 +466,17 @@ void TestDiskDialogs::clearMetadataButtonFollowsTheTickOrder()
     SK_ClearMetadataDialog dialog;
     auto *button = widget<QPushButton>(&dialog, "clearMetaButton");
     auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
-    QCOMPARE(rowOfDisk(list, kHdd1)->text(3), QStringLiteral("1"));
+    QCOMPARE(rowWithId(list, kHdd1)->text(3), QStringLiteral("1"));
     tick(&dialog, {kHdd1});
     QVERIFY2(!button->isEnabled(), "a disk in use first leaves the button off");
     tick(&dialog, {kNvme});
     QVERIFY(!button->isEnabled());
-    rowOfDisk(list, kHdd1)->setCheckState(0, Qt::Unchecked);
+    rowWithId(list, kHdd1)->setCheckState(0, Qt::Unchecked);
     QVERIFY2(button->isEnabled(), "only free disks ticked");
     tick(&dialog, {kHdd1});
     QVERIFY2(button->isEnabled(), "a disk in use added later leaves it on");
-    rowOfDisk(list, kHdd1)->setCheckState(0, Qt::Unchecked);
-    rowOfDisk(list, kNvme)->setCheckState(0, Qt::Unchecked);
+    rowWithId(list, kHdd1)->setCheckState(0, Qt::Unchecked);
+    rowWithId(list, kNvme)->setCheckState(0, Qt::Unchecked);
     QVERIFY(!button->isEnabled());
 }
 
@@ -592,13 +513,13 @@ void TestDiskDialogs::propertiesListShowsEachDisksSettings()
     const auto texts = [list](int disk) {
         QStringList t;
         for (int c = 1; c <= 5; ++c)
-            t << rowOfDisk(list, disk)->text(c);
+            t << rowWithId(list, disk)->text(c);
         return t;
     };
     QCOMPARE(texts(kHdd1).mid(1, 4), (QStringList{"Disabled", "Enabled", "Enabled", "1"}));
     QCOMPARE(texts(kHdd2).mid(1, 4), (QStringList{"Enabled", "Disabled", "Disabled", "1"}));
     QCOMPARE(texts(kNvme).mid(1, 4), (QStringList{"Enabled", "Disabled", "Enabled", "0"}));
-    QCOMPARE(rowOfDisk(list, kHdd1)->text(9), QStringLiteral("FW 1"));
+    QCOMPARE(rowWithId(list, kHdd1)->text(9), QStringLiteral("FW 1"));
     QCOMPARE(list->sortColumn(), 0);
 }
 
@@ -617,10 +538,10 @@ void TestDiskDialogs::propertiesCacheCommandSkipsNvmeAndKeepsTicks()
     QVERIFY2(!(diskOf(m, kHdd1).features & code::FeatureWriteCache), "the SATA disk changed");
     QVERIFY2(diskOf(m, kNvme).features & code::FeatureWriteCache, "the NVMe disk did not");
     auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
-    QCOMPARE(rowOfDisk(list, kHdd1)->text(2), QStringLiteral("Disabled"));
-    QCOMPARE(rowOfDisk(list, kHdd1)->checkState(0), Qt::Checked);
-    QCOMPARE(rowOfDisk(list, kNvme)->checkState(0), Qt::Checked);
-    QCOMPARE(rowOfDisk(list, kSsd1)->checkState(0), Qt::Unchecked);
+    QCOMPARE(rowWithId(list, kHdd1)->text(2), QStringLiteral("Disabled"));
+    QCOMPARE(rowWithId(list, kHdd1)->checkState(0), Qt::Checked);
+    QCOMPARE(rowWithId(list, kNvme)->checkState(0), Qt::Checked);
+    QCOMPARE(rowWithId(list, kSsd1)->checkState(0), Qt::Unchecked);
 }
 
 void TestDiskDialogs::propertiesOnlyNvmeTickedSendsNothing()
@@ -629,12 +550,12 @@ void TestDiskDialogs::propertiesOnlyNvmeTickedSendsNothing()
     const std::uint64_t before = scope.host->model().generation;
     SK_DiskProperites dialog;
     tick(&dialog, {kNvme});
-    QTreeWidgetItem *row = rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme);
+    QTreeWidgetItem *row = rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme);
     BoxAnswerer ok(QMessageBox::Ok);
     click(&dialog, "diskReadEnableButton");
     QCOMPARE(ok.texts.size(), 1);
     QCOMPARE(scope.host->model().generation, before);
-    QVERIFY2(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme) == row,
+    QVERIFY2(rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme) == row,
              "the list is not redrawn");
 }
 
@@ -644,14 +565,14 @@ void TestDiskDialogs::propertiesNothingTickedSendsNothing()
     const std::uint64_t before = scope.host->model().generation;
     const std::size_t events = scope.host->model().events.size();
     SK_DiskProperites dialog;
-    QTreeWidgetItem *row = rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kHdd1);
+    QTreeWidgetItem *row = rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kHdd1);
     for (const char *button :
          {"diskWriteEnableButton", "diskWriteDisableButton", "diskReadEnableButton",
           "diskReadDisableButton", "smartEnableButton", "smartDisableButton"})
         click(&dialog, button);
     QCOMPARE(scope.host->model().generation, before);
     QCOMPARE(scope.host->model().events.size(), events);
-    QVERIFY(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kHdd1) == row);
+    QVERIFY(rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kHdd1) == row);
 }
 
 void TestDiskDialogs::propertiesSmartPollingReachesNvme()
@@ -662,7 +583,7 @@ void TestDiskDialogs::propertiesSmartPollingReachesNvme()
     click(&dialog, "smartDisableButton");
     QVERIFY2(!(diskOf(scope.host->model(), kNvme).features & code::FeatureSmartPolling),
              "SMART polling is switched for NVMe disks too");
-    QCOMPARE(rowOfDisk(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme)->text(4),
+    QCOMPARE(rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme)->text(4),
              QStringLiteral("Disabled"));
 }
 
@@ -697,7 +618,7 @@ void TestDiskDialogs::windowStateIsRestored()
 // set SK_DIALOG_SHOTS to a folder.
 void TestDiskDialogs::screenshots()
 {
-    const QString folder = qEnvironmentVariable("SK_DIALOG_SHOTS");
+    const QString folder = screenshotFolder();
     if (folder.isEmpty())
         QSKIP("SK_DIALOG_SHOTS is not set");
     EmulatedHostScope scope;
@@ -706,36 +627,22 @@ void TestDiskDialogs::screenshots()
         arrayOf(m, kData).layout.members.at(1).flags |= code::MemberFailed;
         return true;
     });
-    const QPalette light = QApplication::palette();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const auto shoot = [&](QWidget *w, const QString &name) {
-        for (const bool dark : {true, false}) {
-            QApplication::setPalette(dark ? darkPalette() : light);
-            w->show();
-            QVERIFY(QTest::qWaitForWindowExposed(w));
-            QTest::qWait(50);
-            const QString file =
-                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
-            QVERIFY2(w->grab().save(file), qPrintable(file));
-        }
-        w->hide();
-    };
+    Screenshots shots(folder);
     SK_diskSpareDialog options(QStringLiteral("0 5"), QStringLiteral("WDC WD40EFPX"), kSpare,
                                kData);
     options.setWindowTitle(QStringLiteral("Options"));
-    shoot(&options, QStringLiteral("disk_options"));
+    shots.shoot(&options, QStringLiteral("disk_options"));
     SK_initDisksDialog initialise;
     initialise.setWindowTitle(QStringLiteral("Initialize Disks"));
     tick(&initialise, {kNvme});
-    shoot(&initialise, QStringLiteral("initialise_disks"));
+    shots.shoot(&initialise, QStringLiteral("initialise_disks"));
     SK_ClearMetadataDialog clear;
     clear.setWindowTitle(QStringLiteral("Clear Metadata"));
-    shoot(&clear, QStringLiteral("clear_metadata"));
+    shots.shoot(&clear, QStringLiteral("clear_metadata"));
     SK_DiskProperites properties;
     properties.setWindowTitle(QStringLiteral("Properties"));
     tick(&properties, {kHdd1, kHdd2});
-    shoot(&properties, QStringLiteral("disk_properties"));
-    QApplication::setPalette(light);
+    shots.shoot(&properties, QStringLiteral("disk_properties"));
     QSettings().clear();
 }
 

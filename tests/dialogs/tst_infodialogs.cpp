@@ -5,18 +5,16 @@
 #include "dialogs/dialogs.h"
 #include "emulator/emulator.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
-#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPalette>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <QUrl>
@@ -43,24 +41,6 @@ enum {
     TempCol
 };
 
-template <typename T>
-T *widget(QWidget *dialog, const char *name)
-{
-    T *found = dialog->findChild<T *>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
-
-QTreeWidgetItem *rowOfDisk(QTreeWidget *list, int id)
-{
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt() == id)
-            return list->topLevelItem(i);
-    }
-    return nullptr;
-}
-
 void setAttribute(EmulatedHostScope &scope, std::size_t disk, std::uint8_t id, std::uint64_t raw)
 {
     scope.host->modify([=](Model &m) {
@@ -78,21 +58,6 @@ QStringList linesOf(const QString &path)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     return QString::fromLocal8Bit(file.readAll()).split(QLatin1Char('\n'));
-}
-
-QPalette darkPalette()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(45, 45, 48));
-    p.setColor(QPalette::WindowText, Qt::white);
-    p.setColor(QPalette::Base, QColor(30, 30, 30));
-    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
-    p.setColor(QPalette::Text, Qt::white);
-    p.setColor(QPalette::Button, QColor(55, 55, 58));
-    p.setColor(QPalette::ButtonText, Qt::white);
-    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    return p;
 }
 
 } // namespace
@@ -143,10 +108,7 @@ void TestInfoDialogs::initTestCase()
     Q_INIT_RESOURCE(resources);
     QVERIFY(settingsDir.isValid());
     QVERIFY(tempDir.isValid());
-    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+    keepSettingsIn(settingsDir.path());
     // The SMART log goes below the temporary folder; keep it in the test's own.
     qputenv("TMPDIR", tempDir.path().toLocal8Bit());
     QCOMPARE(QStandardPaths::writableLocation(QStandardPaths::TempLocation), tempDir.path());
@@ -214,7 +176,7 @@ void TestInfoDialogs::smartOverviewShowsEachDriveKind()
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
     QCOMPARE(list->columnCount(), 10);
     QCOMPARE(list->topLevelItemCount(), 7);
-    QTreeWidgetItem *row = rowOfDisk(list, disk);
+    QTreeWidgetItem *row = rowWithId(list, disk);
     QVERIFY2(row, "every disk has its row");
     QCOMPARE(row->text(DiskCol), port);
     QCOMPARE(row->checkState(DiskCol), Qt::Unchecked);
@@ -243,7 +205,7 @@ void TestInfoDialogs::smartOverviewPowerOnTime()
     EmulatedHostScope scope;
     setAttribute(scope, kHdd - 1, 9, hours);
     SK_SmartDiskDialog dialog;
-    QCOMPARE(rowOfDisk(widget<QTreeWidget>(&dialog, "diskList"), kHdd)->text(HoursCol), shown);
+    QCOMPARE(rowWithId(widget<QTreeWidget>(&dialog, "diskList"), kHdd)->text(HoursCol), shown);
 }
 
 void TestInfoDialogs::smartQueryWithoutTicksTouchesNothing()
@@ -261,7 +223,7 @@ void TestInfoDialogs::smartQueryWritesTheTickedDisksReport()
     EmulatedHostScope scope;
     SK_SmartDiskDialog dialog;
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
-    rowOfDisk(list, kWarnedHdd)->setCheckState(DiskCol, Qt::Checked);
+    rowWithId(list, kWarnedHdd)->setCheckState(DiskCol, Qt::Checked);
     QTest::mouseClick(widget<QPushButton>(&dialog, "smartButton"), Qt::LeftButton);
 
     QCOMPARE(opened, QList<QUrl>{QUrl::fromLocalFile(smartLogPath())});
@@ -280,7 +242,7 @@ void TestInfoDialogs::smartQueryWritesTheTickedDisksReport()
     QVERIFY2(lines.filter(QStringLiteral("Disk ")).size() == 1, "only the ticked disk");
     QVERIFY2(linesOf(transcriptPath()).contains(lines.at(realloc)),
              "the transcript holds the same report");
-    QCOMPARE(rowOfDisk(list, kWarnedHdd)->checkState(DiskCol), Qt::Checked);
+    QCOMPARE(rowWithId(list, kWarnedHdd)->checkState(DiskCol), Qt::Checked);
 }
 
 void TestInfoDialogs::smartSecondQueryEmptiesTheFirstLog()
@@ -288,8 +250,8 @@ void TestInfoDialogs::smartSecondQueryEmptiesTheFirstLog()
     EmulatedHostScope scope;
     SK_SmartDiskDialog dialog;
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
-    rowOfDisk(list, kSsd)->setCheckState(DiskCol, Qt::Checked);
-    rowOfDisk(list, kNvme)->setCheckState(DiskCol, Qt::Checked);
+    rowWithId(list, kSsd)->setCheckState(DiskCol, Qt::Checked);
+    rowWithId(list, kNvme)->setCheckState(DiskCol, Qt::Checked);
     auto *query = widget<QPushButton>(&dialog, "smartButton");
     QTest::mouseClick(query, Qt::LeftButton);
     QCOMPARE(linesOf(smartLogPath()).filter(QRegularExpression("^Disk \\d")).size(), 2);
@@ -449,30 +411,17 @@ void TestInfoDialogs::windowStateIsRestored()
 // set SK_DIALOG_SHOTS to a folder.
 void TestInfoDialogs::screenshots()
 {
-    const QString folder = qEnvironmentVariable("SK_DIALOG_SHOTS");
+    const QString folder = screenshotFolder();
     if (folder.isEmpty())
         QSKIP("SK_DIALOG_SHOTS is not set");
     EmulatedHostScope scope;
-    const QPalette light = QApplication::palette();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const auto shoot = [&](QWidget *w, const QString &name) {
-        for (const bool dark : {true, false}) {
-            QApplication::setPalette(dark ? darkPalette() : light);
-            w->show();
-            QVERIFY(QTest::qWaitForWindowExposed(w));
-            QTest::qWait(50);
-            const QString file =
-                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
-            QVERIFY2(w->grab().save(file), qPrintable(file));
-        }
-    };
+    Screenshots shots(folder);
     SK_SmartDiskDialog smart;
-    shoot(&smart, QStringLiteral("smart"));
+    shots.shoot(&smart, QStringLiteral("smart"));
     sk_ControllerProperties controllers;
-    shoot(&controllers, QStringLiteral("controllers"));
+    shots.shoot(&controllers, QStringLiteral("controllers"));
     SK_AboutDialog about(nullptr, QStringLiteral("9.3.3-00097"));
-    shoot(&about, QStringLiteral("about"));
-    QApplication::setPalette(light);
+    shots.shoot(&about, QStringLiteral("about"));
 }
 
 QTEST_MAIN(TestInfoDialogs)

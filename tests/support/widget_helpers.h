@@ -1,0 +1,200 @@
+// Helpers the widget suites share: finding a dialog's parts by object name, ticking
+// rows of its lists, answering the message boxes it raises, keeping the settings it
+// writes away from the user's own, and taking pictures of it for a person to look at.
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColor>
+#include <QCoreApplication>
+#include <QList>
+#include <QMessageBox>
+#include <QPalette>
+#include <QSettings>
+#include <QString>
+#include <QStringList>
+#include <QStyleFactory>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QVariant>
+#include <QtTest>
+
+// The child of `parent` named `name`; a missing one ends the suite, since every check
+// after it would only fail for the same reason.
+template <typename T>
+T *widget(QWidget *parent, const char *name)
+{
+    T *found = parent->findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("no widget %s", name);
+    return found;
+}
+
+inline void click(QWidget *dialog, const char *button)
+{
+    QTest::mouseClick(widget<QAbstractButton>(dialog, button), Qt::LeftButton);
+}
+
+// The top-level row whose `role` data is `id`, or null.
+inline QTreeWidgetItem *rowWithId(QTreeWidget *list, int id, int role = Qt::UserRole)
+{
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        if (list->topLevelItem(i)->data(0, role).toInt() == id)
+            return list->topLevelItem(i);
+    }
+    return nullptr;
+}
+
+// The row with `id`, which the test expects listed: a missing one ends the suite.
+inline QTreeWidgetItem *listedRow(QTreeWidget *list, int id, int role = Qt::UserRole)
+{
+    QTreeWidgetItem *row = rowWithId(list, id, role);
+    if (!row)
+        qFatal("row %d is not listed", id);
+    return row;
+}
+
+// The ids of the top-level rows in the order they are shown.
+inline QList<int> rowIds(QTreeWidget *list, int role = Qt::UserRole)
+{
+    QList<int> ids;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        ids << list->topLevelItem(i)->data(0, role).toInt();
+    return ids;
+}
+
+// Sets the tick of the rows with `ids`, as a user clicking their boxes would.
+inline void tickRows(QTreeWidget *list, const QList<int> &ids, Qt::CheckState state = Qt::Checked,
+                     int role = Qt::UserRole)
+{
+    for (int id : ids)
+        listedRow(list, id, role)->setCheckState(0, state);
+}
+
+// Presses `button` on a box that is up, or its first button where it has no such.
+inline void pressBoxButton(QMessageBox *box, QMessageBox::StandardButton button)
+{
+    QAbstractButton *b = box->button(button);
+    (b ? b : box->buttons().constFirst())->click();
+}
+
+// Answers the next message box with `button` once it is up, handing its text to
+// `note`. The box is modal, so the answer has to come from the event loop it runs.
+template <typename Note>
+void answerNextBoxNoting(QMessageBox::StandardButton button, Note note)
+{
+    QTimer::singleShot(0, [button, note] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box) {
+            answerNextBoxNoting(button, note);
+            return;
+        }
+        note(box->text());
+        pressBoxButton(box, button);
+    });
+}
+
+// Answers the next message box with `button`, adding its text to `texts` if given.
+inline void answerNextBox(QMessageBox::StandardButton button, QStringList *texts = nullptr)
+{
+    answerNextBoxNoting(button, [texts](const QString &text) {
+        if (texts)
+            *texts << text;
+    });
+}
+
+// Answers the next message box with `button`, keeping its text in `text`.
+inline void answerNextBox(QMessageBox::StandardButton button, QString *text)
+{
+    answerNextBoxNoting(button, [text](const QString &shown) { *text = shown; });
+}
+
+// Answers every message box that comes up while it lives with `button`, noting texts.
+class BoxAnswerer
+{
+public:
+    explicit BoxAnswerer(QMessageBox::StandardButton button)
+    {
+        QObject::connect(&timer, &QTimer::timeout, [this, button] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box || box->property("answered").toBool())
+                return;
+            box->setProperty("answered", true);
+            texts << box->text();
+            pressBoxButton(box, button);
+        });
+        timer.start(0);
+    }
+
+    QStringList texts;
+
+private:
+    QTimer timer;
+};
+
+// Makes the suite's settings files live in `folder`, so the window state the dialogs
+// save neither reads nor overwrites the user's own.
+inline void keepSettingsIn(const QString &folder)
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepTests"));
+    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+}
+
+inline QPalette darkPalette()
+{
+    QPalette p;
+    p.setColor(QPalette::Window, QColor(45, 45, 48));
+    p.setColor(QPalette::WindowText, Qt::white);
+    p.setColor(QPalette::Base, QColor(30, 30, 30));
+    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
+    p.setColor(QPalette::Text, Qt::white);
+    p.setColor(QPalette::Button, QColor(55, 55, 58));
+    p.setColor(QPalette::ButtonText, Qt::white);
+    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
+    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
+    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
+    return p;
+}
+
+// Where pictures of the dialogs go: the folder SK_DIALOG_SHOTS names, empty for none.
+inline QString screenshotFolder()
+{
+    return qEnvironmentVariable("SK_DIALOG_SHOTS");
+}
+
+// Pictures of widgets in the dark and the light look, in the Fusion style, for a person
+// to look at. The application gets its own palette back when the pictures are done.
+class Screenshots
+{
+public:
+    explicit Screenshots(const QString &into) : folder(into), light(QApplication::palette())
+    {
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    }
+    ~Screenshots() { QApplication::setPalette(light); }
+    Screenshots(const Screenshots &) = delete;
+    Screenshots &operator=(const Screenshots &) = delete;
+
+    // Saves <name>_dark.png and <name>_light.png of `w`, then hides it again.
+    void shoot(QWidget *w, const QString &name)
+    {
+        for (const bool dark : {true, false}) {
+            QApplication::setPalette(dark ? darkPalette() : light);
+            w->show();
+            QVERIFY(QTest::qWaitForWindowExposed(w));
+            QTest::qWait(50);
+            const QString file =
+                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
+            QVERIFY2(w->grab().save(file), qPrintable(file));
+        }
+        w->hide();
+    }
+
+private:
+    const QString folder;
+    const QPalette light;
+};
