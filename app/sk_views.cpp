@@ -31,7 +31,12 @@ QString latin(const char *field)
 
 QString stateText(const QString &state)
 {
-    static const QStringList plain = {"NORMAL", "READY", "CRITICAL", "OFFLINE", "OUTDATE"};
+    // The driver's own words double as the source texts of their translations.
+    static const QStringList plain = {QT_TRANSLATE_NOOP("SK_MainWindow", "NORMAL"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "READY"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "CRITICAL"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "OFFLINE"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "OUTDATE")};
     if (plain.contains(state))
         return SK_MainWindow::tr(state.toLatin1().constData());
     if (state == QLatin1String("CACHE_OFFLINE"))
@@ -56,7 +61,10 @@ QString taskText(const QString &type)
 {
     if (type == QLatin1String("NOT_ACTIVE"))
         return SK_MainWindow::tr("NOT ACTIVE");
-    static const QStringList plain = {"TRANSFORM", "CREATE", "CHECK", "COPY", "RESTORE"};
+    static const QStringList plain = {
+        QT_TRANSLATE_NOOP("SK_MainWindow", "TRANSFORM"),
+        QT_TRANSLATE_NOOP("SK_MainWindow", "CREATE"), QT_TRANSLATE_NOOP("SK_MainWindow", "CHECK"),
+        QT_TRANSLATE_NOOP("SK_MainWindow", "COPY"), QT_TRANSLATE_NOOP("SK_MainWindow", "RESTORE")};
     if (plain.contains(type))
         return SK_MainWindow::tr(type.toLatin1().constData());
     if (type == QLatin1String("CHECK_BITMAP"))
@@ -78,8 +86,13 @@ QString taskStateText(const QString &state)
 {
     if (state == QLatin1String("NOT_ACTIVE"))
         return SK_MainWindow::tr("NOT ACTIVE");
-    static const QStringList plain = {"STARTED", "PAUSED",    "SHUTDOWN", "FAILED",
-                                      "STOPPED", "COMPLETED", "REMOVED"};
+    static const QStringList plain = {QT_TRANSLATE_NOOP("SK_MainWindow", "STARTED"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "PAUSED"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "SHUTDOWN"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "FAILED"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "STOPPED"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "COMPLETED"),
+                                      QT_TRANSLATE_NOOP("SK_MainWindow", "REMOVED")};
     if (plain.contains(state))
         return SK_MainWindow::tr(state.toLatin1().constData());
     if (state == QLatin1String("NOT_COMPLETED"))

@@ -9,6 +9,44 @@ namespace SK_ArrayListParts {
 
 namespace {
 
+// The words below are looked up in their caller's context, which the translation tools
+// cannot follow; this list puts each word into the context of every dialog that shows it.
+// A new caller adds its rows here.
+[[maybe_unused]] constexpr const char *kCallerWords[] = {
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "NORMAL"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "READY"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "CRITICAL"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "OFFLINE"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "OUTDATE"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "CACHE OFFLINE"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "UNKNOWN"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "Hidden"),
+    QT_TRANSLATE_NOOP("SK_DeleteForm", "none"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "NORMAL"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "READY"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "CRITICAL"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "OFFLINE"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "OUTDATE"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "CACHE OFFLINE"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "UNKNOWN"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "Hidden"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "none"),
+    QT_TRANSLATE_NOOP("SK_TieringDialog", "NA"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "TRANSFORM"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "CREATE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "CHECK"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "COPY"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "RESTORE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "NOT ACTIVE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "CHECK BITMAP"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "FLUSH BITMAP"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "SECURE ERASE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "PAGE MOVE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "TIER MOVE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "ZERO CREATE"),
+    QT_TRANSLATE_NOOP("SK_TaskPriorityDialog", "UNKNOWN"),
+};
+
 QString translated(const char *context, const QString &word)
 {
     return QCoreApplication::translate(context, word.toLatin1().constData());

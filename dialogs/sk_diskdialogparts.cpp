@@ -33,13 +33,19 @@ QString portLabel(const SK_ConfigDisk &disk)
 
 bool fillInitialiseList(SK_RaidApi &api, QTreeWidget *list, bool clearMetadata)
 {
-    // Both dialogs translate with the initialise dialog's words.
-    const auto tr = [](const char *text) {
-        return QCoreApplication::translate("SK_initDisksDialog", text);
-    };
+    // Both dialogs show the initialise dialog's words.
+    static const char *const headers[] = {QT_TRANSLATE_NOOP("SK_initDisksDialog", "Disk"),
+                                          QT_TRANSLATE_NOOP("SK_initDisksDialog", "State"),
+                                          QT_TRANSLATE_NOOP("SK_initDisksDialog", "Type"),
+                                          QT_TRANSLATE_NOOP("SK_initDisksDialog", "Uses"),
+                                          QT_TRANSLATE_NOOP("SK_initDisksDialog", "Free Space"),
+                                          QT_TRANSLATE_NOOP("SK_initDisksDialog", "Model Number"),
+                                          QT_TRANSLATE_NOOP("SK_initDisksDialog", "Serial Number")};
+    QStringList labels;
+    for (const char *header : headers)
+        labels << QCoreApplication::translate("SK_initDisksDialog", header);
     list->setColumnCount(7);
-    list->setHeaderLabels({tr("Disk"), tr("State"), tr("Type"), tr("Uses"), tr("Free Space"),
-                           tr("Model Number"), tr("Serial Number")});
+    list->setHeaderLabels(labels);
     list->setRootIsDecorated(false);
 
     bool anyUnknown = false;
@@ -61,7 +67,9 @@ bool fillInitialiseList(SK_RaidApi &api, QTreeWidget *list, bool clearMetadata)
         row->setCheckState(0, Qt::Unchecked);
         row->setData(0, Qt::UserRole, id);
         row->setText(1, field(disk->State));
-        row->setText(2, unknown && !clearMetadata ? tr("New") : type);
+        row->setText(2, unknown && !clearMetadata
+                            ? QCoreApplication::translate("SK_initDisksDialog", "New")
+                            : type);
         row->setText(3, QString::number(api.DiskUseCount(id)));
         row->setText(4, SK_RaidApi::CapacityText(static_cast<qint64>(disk->TotalFreeSpace)));
         row->setText(5, field(disk->Model).trimmed());
