@@ -37,3 +37,11 @@ set(SK_TRANSLATION_SOURCES
     translations/StrataPanel2_Turkish_tr_TR.ts
     translations/StrataPanel2_Ukrainian_uk_UA.ts
 )
+
+# What lupdate reads: every source and form of the console's Qt layers. Headers resolve from
+# the project root, so that each tr() lands in its class's context. Obsolete entries and
+# source locations stay out of the files, which keeps their diffs to real text changes.
+get_filename_component(_sk_source_root "${CMAKE_CURRENT_LIST_DIR}/.." ABSOLUTE)
+set(SK_LUPDATE_ARGUMENTS
+    -no-obsolete -locations none -I "${_sk_source_root}"
+    "${_sk_source_root}/app" "${_sk_source_root}/dialogs" "${_sk_source_root}/service")
