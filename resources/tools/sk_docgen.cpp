@@ -4,17 +4,53 @@
 //
 //   sk_docgen INPUT.md OUTPUT.pdf TITLE
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFont>
 #include <QGuiApplication>
+#include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QUrl>
 
 #include <cstdio>
+
+namespace {
+
+// Printing puts a margin of 2 cm inside the page's own and lays the text out in units of
+// 96 per inch; the width left for the text, in those units.
+qreal textWidth(const QPdfWriter &writer)
+{
+    const qreal dpi = writer.logicalDpiX();
+    const qreal body = writer.width() - 2 * (2 / 2.54) * dpi;
+    return body * 96 / dpi;
+}
+
+// Screenshots are wider than a page: each image wider than the text is handed to the
+// document with a pixel ratio that makes it as wide as the text, so it prints at its
+// full resolution. Images that fit keep their own size.
+void fitImages(QTextDocument &document, const QDir &base, qreal width)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            if (!format.isImageFormat())
+                continue;
+            const QString name = format.toImageFormat().name();
+            QImage image(base.filePath(name));
+            if (image.isNull() || image.width() <= width)
+                continue;
+            image.setDevicePixelRatio(image.width() / width);
+            document.addResource(QTextDocument::ImageResource, QUrl(name), image);
+        }
+    }
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -50,6 +86,7 @@ int main(int argc, char **argv)
     writer.setResolution(300);
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                      QMarginsF(20, 18, 20, 18), QPageLayout::Millimeter));
+    fitImages(document, QFileInfo(input).absoluteDir(), textWidth(writer));
     // Printing lays the document out on the writer's pages and numbers them.
     document.print(&writer);
 
