@@ -1,4 +1,5 @@
 #include "app/app.h"
+#include "support/emulated_host.h"
 
 #include <QApplication>
 #include <QFile>
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
+#include <QTreeWidget>
 #include <QtTest>
 
 class tst_Startup : public QObject
@@ -25,6 +27,8 @@ private slots:
     void eventLanguage();
     void translationChoice_data();
     void translationChoice();
+    void languageReachesTheWindow_data();
+    void languageReachesTheWindow();
     void secondCopyIsRefusedWithoutAWindow();
 
 private:
@@ -38,6 +42,8 @@ void tst_Startup::initTestCase()
     Q_INIT_RESOURCE(translations);
     QVERIFY(m_settingsDir.isValid() && m_runtimeDir.isValid());
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtimeDir.path()));
+    // The window's log files land in the temporary folder.
+    qputenv("TMPDIR", QFile::encodeName(m_runtimeDir.path()));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settingsDir.path());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settingsDir.path());
     SK_SetApplicationIdentity();
@@ -140,6 +146,74 @@ void tst_Startup::translationChoice()
     QCOMPARE(SK_ChooseTranslation(translator, settings), installed);
     QCOMPARE(settings.value(SK_SettingsKey::ApplicationLanguage).toString(), storedAfter);
     QCoreApplication::removeTranslator(&translator);
+}
+
+void tst_Startup::languageReachesTheWindow_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("systemLocale");
+    QTest::addColumn<QString>("storedAfter");
+    QTest::addColumn<QString>("resource");
+    QTest::addColumn<QString>("criticalText");
+
+    const QString english = QStringLiteral("- Array 2 has gone critical.");
+    const QString german = QStringLiteral("- Array 2 ist in den kritischen Zustand gewechselt.");
+    QTest::newRow("stored German") << "de"
+                                   << "en_US"
+                                   << "de"
+                                   << "StrataPanel2_German_de.qm" << german;
+    QTest::newRow("first run on a German system") << ""
+                                                  << "de"
+                                                  << "de"
+                                                  << "StrataPanel2_German_de.qm" << german;
+    QTest::newRow("first run with a hyphenated locale runs in English")
+        << ""
+        << "de_AT"
+        << "en" << QString() << english;
+    QTest::newRow("unknown stored code runs in English") << "xx"
+                                                         << "de"
+                                                         << "xx" << QString() << english;
+    QTest::newRow("stored Danish: an empty translation, Danish events")
+        << "da_DK"
+        << "de"
+        << "da_DK"
+        << "StrataPanel2_Danish_da_DK.qm" << QStringLiteral("- Array 2 er blevet kritisk.");
+    QTest::newRow("stored Simplified Chinese: no file, yet Chinese events")
+        << "zh_CN"
+        << "de"
+        << "zh_CN" << QString() << QStringLiteral("- 阵列 2 已进入临界状态。");
+}
+
+// The start-up as the console runs it, up to the window: the translation chosen from
+// the settings or the system locale, then the window on a fresh emulated host, whose
+// event view takes its language from the same setting.
+void tst_Startup::languageReachesTheWindow()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, systemLocale);
+    QFETCH(QString, storedAfter);
+    QFETCH(QString, resource);
+    QFETCH(QString, criticalText);
+
+    QLocale::setDefault(QLocale(systemLocale));
+    QSettings settings;
+    if (!stored.isEmpty())
+        settings.setValue(SK_SettingsKey::ApplicationLanguage, stored);
+    QTranslator translator;
+    QCOMPARE(SK_ChooseTranslation(translator, settings), !resource.isEmpty());
+    QCOMPARE(settings.value(SK_SettingsKey::ApplicationLanguage).toString(), storedAfter);
+    QVERIFY2(translator.filePath().endsWith(resource), qPrintable(translator.filePath()));
+
+    EmulatedHostScope host;
+    SK_MainWindow window;
+    QTreeWidget *events = window.findChild<QTreeWidget *>(QStringLiteral("eventList"));
+    QTreeWidgetItem *critical =
+        events->findItems(QStringLiteral("1015"), Qt::MatchExactly, 2).value(0);
+    QVERIFY2(critical, "the workstation's log holds a critical array");
+    QCOMPARE(critical->text(4), criticalText);
+    // Where the installed file translates the column's title, the window shows it.
+    const QString title = translator.translate("SK_MainWindow", "Text");
+    QCOMPARE(events->headerItem()->text(4), title.isEmpty() ? QStringLiteral("Text") : title);
 }
 
 void tst_Startup::secondCopyIsRefusedWithoutAWindow()
