@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
+#include <mutex>
 
 // The process-wide picture and channel table. The picture has static storage: views
 // keep pointers into it, and a re-read overwrites its records in place.
@@ -22,15 +24,26 @@ ChannelTable &channels()
     return table;
 }
 
+std::mutex &pictureMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+// The new picture is read aside and copied in at once, so a worker building the array
+// list never sees the counts cleared half way through a re-read, and a command on
+// another thread never finds the channel table emptied.
 void readConfiguration()
 {
-    ChannelTable &table = channels();
-    std::uint32_t count = 0;
-    std::memset(table.cores, 0, sizeof table.cores);
-    if (SK_ApiGetCoreList(table.cores, sizeof table.cores, &count) != SK_STS_SUCCESS)
-        count = 0;
-    table.count = count;
-    SK_ParseConfig(&table.cores[0], &picture(), 0, 0);
+    ChannelTable table{};
+    if (SK_ApiGetCoreList(table.cores, sizeof table.cores, &table.count) != SK_STS_SUCCESS)
+        table.count = 0;
+    auto fresh = std::make_unique<SK_ConfigSnapshot>();
+    SK_ParseConfig(&table.cores[0], fresh.get(), 0, 0);
+
+    std::lock_guard<std::mutex> lock(pictureMutex());
+    channels() = table;
+    std::memcpy(&picture(), fresh.get(), sizeof(SK_ConfigSnapshot));
 }
 
 bool textIs(const char *field, const char *word)
@@ -257,6 +270,7 @@ QList<int> SK_RaidApi::GetDiskIds() const
 
 QList<LogicalDrive *> SK_RaidApi::GetArrayList() const
 {
+    std::lock_guard<std::mutex> lock(pictureMutex());
     QList<LogicalDrive *> list;
     const int n = clampedCount(picture().ArrayCount, SK_SNAPSHOT_ARRAYS);
     for (int i = 0; i < n; ++i)

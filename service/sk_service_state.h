@@ -4,6 +4,8 @@
 
 #include "service/sk_records.h"
 
+#include <mutex>
+
 namespace sk_service {
 
 // The cores found at the last enumeration: room for eight entries of 36 bytes.
@@ -18,6 +20,8 @@ ChannelTable &channels();
 
 // Enumerates the cores and reads the configuration of the first into the picture.
 void readConfiguration();
+// Held while the picture is replaced and while the array list is taken from it.
+std::mutex &pictureMutex();
 
 bool textIs(const char *field, const char *word);
 
