@@ -167,7 +167,8 @@ void TestInfoDialogs::smartOverviewShowsEachDriveKind()
     QFETCH(QString, temperature);
     EmulatedHostScope scope;
     if (temperature.contains(QLatin1String("%1"))) {
-        for (const SmartAttribute &a : scope.host->model().disks.at(std::size_t(disk - 1)).smart) {
+        const sk_emu::Model hostModel = scope.host->model();
+        for (const SmartAttribute &a : hostModel.disks.at(std::size_t(disk - 1)).smart) {
             if (a.id == 194)
                 temperature = temperature.arg((a.raw >> 16) & 0xFFFF).arg((a.raw >> 32) & 0xFFFF);
         }

@@ -472,7 +472,7 @@ void tst_planning::createClampsToTheMaximum()
     lab.api->RefreshConfig();
     const SK_ConfigArray *huge = lab.arrayNamed("Huge");
     QVERIFY2(huge, "the clamped array must be created");
-    QCOMPARE(huge->Capacity, std::uint64_t{2000} * kMiB);
+    QCOMPARE(std::uint64_t{huge->Capacity}, std::uint64_t{2000} * kMiB);
 
     // The maximum the dialog shows, asked for as it stands, creates the same array.
     Lab again(equalDisks(3));
@@ -482,7 +482,7 @@ void tst_planning::createClampsToTheMaximum()
     QCOMPARE(again.api->CreateArray(shown, false), 1);
     again.api->RefreshConfig();
     QVERIFY(again.arrayNamed("Shown"));
-    QCOMPARE(again.arrayNamed("Shown")->Capacity, std::uint64_t{2000} * kMiB);
+    QCOMPARE(std::uint64_t{again.arrayNamed("Shown")->Capacity}, std::uint64_t{2000} * kMiB);
 
     // Wanted sizes pass through single precision: above 2^24 MB the last one is lost.
     QVERIFY(SK_RaidApi::ToBinaryMB(2000001) != SK_RaidApi::ToBinaryMB(2000000));
@@ -588,7 +588,7 @@ void tst_planning::createReachesTheDrivers()
     const SK_ConfigArray *made = lab.arrayNamed(name.constData());
     QVERIFY2(made, "the new array must be in the next read");
     QCOMPARE(QString::fromLatin1(made->Type), shownType);
-    QCOMPARE(made->Capacity, binaryOf(static_cast<std::uint64_t>(size)) * kMiB);
+    QCOMPARE(std::uint64_t{made->Capacity}, binaryOf(static_cast<std::uint64_t>(size)) * kMiB);
 }
 
 // --- Transforms ---
@@ -752,7 +752,7 @@ void tst_planning::transformRunsToCompletion()
     const SK_ConfigArray *done = lab.api->GetArrayRecord(1);
     QVERIFY(done);
     QCOMPARE(QString::fromLatin1(done->Type), targetType);
-    QCOMPARE(done->Capacity, static_cast<std::uint64_t>(expectedMiB) * kMiB);
+    QCOMPARE(std::uint64_t{done->Capacity}, static_cast<std::uint64_t>(expectedMiB) * kMiB);
     QCOMPARE(QString::fromLatin1(done->DisplayName), QStringLiteral("Source"));
     QCOMPARE(done->FirstCount * done->SecondCount, disks.size());
 }
@@ -862,7 +862,7 @@ void tst_planning::tiersOverTwoArrays()
     QVERIFY2(paired, "the tier must be in the next read");
     QCOMPARE(QString::fromLatin1(paired->Type), QStringLiteral("RAIDTIER"));
     QCOMPARE(QString::fromLatin1(paired->Cache), shownCache);
-    QCOMPARE(paired->Capacity, static_cast<std::uint64_t>(expectedMiB) * kMiB);
+    QCOMPARE(std::uint64_t{paired->Capacity}, static_cast<std::uint64_t>(expectedMiB) * kMiB);
     // Its parts are tier parts now and can't be paired again.
     QVERIFY(lab.api->ArrayIsTierPart(1));
     QVERIFY(!lab.api->ArrayCanBeColdTier(1));

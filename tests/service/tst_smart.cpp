@@ -181,7 +181,8 @@ void tst_smart::hardDiskReportWarnsOfItsReallocatedSectors()
 {
     EmulatedHostScope scope;
     SK_RaidApi api;
-    const Disk &disk = diskAt(scope.host->model(), kHdd3);
+    const Model model = scope.host->model();
+    const Disk &disk = diskAt(model, kHdd3);
 
     api.RetrieveAllSmartInfo(kHdd3, path("hdd.log"), path("hdd-transcript.log"));
 
