@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <memory>
 #include <string>
 #include <thread>
@@ -115,18 +114,6 @@ TEST_F(ChannelTest, constructionOpensReadsTheChannelIdAndTheImage)
     EXPECT_EQ(core.EnclosureCount, 1u);
 }
 
-TEST_F(ChannelTest, previousGenerationIsAskedForAndReadWithShortDiskRecords)
-{
-    device->readReplies.push_back(ImageBuilder(9)
-                                      .record(SK_TAG_DISK, SK_DISK_RECORD_SIZE_PREVIOUS)
-                                      .record(SK_TAG_DISK, SK_DISK_RECORD_SIZE_PREVIOUS)
-                                      .record(SK_TAG_DISK, SK_DISK_RECORD_SIZE_PREVIOUS)
-                                      .reply());
-    SK_Core core(".", "Core1", 0x500000009ull);
-    EXPECT_EQ(SK_GetU32(device->transfers[1].written.data(), SK_HDR_PARAMETER), 9u);
-    EXPECT_EQ(core.DiskCount, 3u);
-}
-
 TEST_F(ChannelTest, missingDeviceLeavesAnUnopenedCoreWithoutTransfers)
 {
     device->devices.clear();
@@ -140,6 +127,10 @@ TEST_F(ChannelTest, missingDeviceLeavesAnUnopenedCoreWithoutTransfers)
     EXPECT_EQ(SK_WithFreshCore(&entry, [&](SK_Core &) { return ++attempts, 1u; }),
               SK_STS_INVALID_CORE_HANDLE);
     EXPECT_EQ(attempts, 0);
+
+    SK_Core zero(".", "Core0", 0); // core 0 names no device at all
+    EXPECT_EQ(zero.Handle, 0u);
+    EXPECT_TRUE(device->opened.empty());
 }
 
 TEST_F(ChannelTest, aFailedOpenLeavesItsSystemErrorToItsOwnThread)
@@ -152,13 +143,6 @@ TEST_F(ChannelTest, aFailedOpenLeavesItsSystemErrorToItsOwnThread)
     std::uint32_t elsewhere = 99;
     std::thread([&elsewhere] { elsewhere = SKTL_LastError(); }).join();
     EXPECT_EQ(elsewhere, SK_SYSERR_NONE);
-}
-
-TEST_F(ChannelTest, coreZeroNamesNoDevice)
-{
-    SK_Core core(".", "Core0", 0);
-    EXPECT_EQ(core.Handle, 0u);
-    EXPECT_TRUE(device->opened.empty());
 }
 
 TEST_F(ChannelTest, channelZeroAnswersEverythingWithSuccessAndAnUntouchedBuffer)
@@ -197,7 +181,7 @@ TEST_F(ChannelTest, readParameterWidthDependsOnTheReadCode)
     EXPECT_EQ(SK_GetU64(device->transfers[4].written.data(), SK_HDR_GENERATION), core->Generation);
 }
 
-TEST_F(ChannelTest, shortReadStillWrites8192BytesAndFaultsOnASmallBlock)
+TEST_F(ChannelTest, shortReadStillWrites8192BytesAndBadBuffersAreRefusedUnsent)
 {
     auto core = openCore();
     SKTL_AlignedBuffer big(8192, "test");
@@ -209,33 +193,10 @@ TEST_F(ChannelTest, shortReadStillWrites8192BytesAndFaultsOnASmallBlock)
     device->transfers.clear();
     SKTL_AlignedBuffer small(1024, "test");
     EXPECT_EQ(core->SK_ConfigRead(small.data(), 1024, 4110, 0), SKTL_STS_INVALID_BUFFER);
-    EXPECT_TRUE(device->transfers.empty());
-}
-
-TEST_F(ChannelTest, untrackedBufferIsRefusedWithoutASystemCall)
-{
-    auto core = openCore();
     alignas(4096) static std::uint8_t untracked[8192];
     EXPECT_EQ(core->SK_ConfigWrite(untracked, 1024, 3), SKTL_STS_INVALID_BUFFER);
     EXPECT_EQ(core->SK_ConfigRead(untracked, 8192, 4110, 0), SKTL_STS_INVALID_BUFFER);
     EXPECT_TRUE(device->transfers.empty());
-}
-
-TEST_F(ChannelTest, refusedReadIsAnsweredByTheLastStatusExchange)
-{
-    auto core = openCore(0x0000000200000010ull);
-    device->readReplies.push_back({SK_SYSERR_GEN_FAILURE, {}});
-    device->readReplies.push_back(ScriptedDevice::statusReply(SK_STS_LOGICAL_DEVICE_NOT_FOUND));
-    SKTL_AlignedBuffer buffer(8192, "test");
-
-    EXPECT_EQ(core->SK_ConfigRead(buffer.data(), 8192, 4109, 0), SK_STS_LOGICAL_DEVICE_NOT_FOUND);
-    ASSERT_EQ(device->transfers.size(), 4u);
-    const auto &reason = device->transfers[2];
-    EXPECT_FALSE(reason.isRead);
-    EXPECT_EQ(reason.size, 8192u);
-    EXPECT_EQ(SK_GetU32(reason.written.data(), SK_HDR_COMMAND), SK_COMMAND_READ);
-    EXPECT_EQ(SK_GetU32(reason.written.data(), SK_HDR_READ_CODE), SK_READ_LAST_STATUS);
-    EXPECT_EQ(SK_GetU64(reason.written.data(), SK_HDR_PARAMETER), 0x0000000200000010ull);
 }
 
 // Which failures of a read ask the driver for the reason: only a refused reply does.
@@ -256,7 +217,7 @@ class ReadFailures : public ChannelTest, public ::testing::WithParamInterface<Re
 
 TEST_P(ReadFailures, askForTheReasonOnlyAfterARefusedReply)
 {
-    auto core = openCore();
+    auto core = openCore(0x0000000200000010ull);
     device->writeErrors.assign(GetParam().writeErrors.begin(), GetParam().writeErrors.end());
     device->readReplies.assign(GetParam().replies.begin(), GetParam().replies.end());
     SKTL_AlignedBuffer buffer(8192, "test");
@@ -264,6 +225,12 @@ TEST_P(ReadFailures, askForTheReasonOnlyAfterARefusedReply)
     EXPECT_EQ(core->SK_ConfigRead(buffer.data(), 8192, SK_READ_USER_MESSAGE, 3), GetParam().status);
     EXPECT_EQ(device->transfers.size(), GetParam().transfers);
     EXPECT_TRUE(device->readReplies.empty()) << "a reply was left unread";
+    if (GetParam().transfers == 4) { // a read asks with the whole generation
+        const auto &reason = device->transfers[2];
+        EXPECT_EQ(SK_GetU32(reason.written.data(), SK_HDR_COMMAND), SK_COMMAND_READ);
+        EXPECT_EQ(SK_GetU32(reason.written.data(), SK_HDR_READ_CODE), SK_READ_LAST_STATUS);
+        EXPECT_EQ(SK_GetU64(reason.written.data(), SK_HDR_PARAMETER), 0x0000000200000010ull);
+    }
 }
 
 const ScriptedReply kRefused{SK_SYSERR_GEN_FAILURE, {}};
@@ -273,6 +240,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         ReadFailure{"request not taken", {SK_SYSERR_GEN_FAILURE}, {}, SK_STS_FAILURE, 1},
         ReadFailure{"request at end of file", {SK_SYSERR_HANDLE_EOF}, {}, SK_STS_EOF, 1},
+        ReadFailure{"reply at end of file", {}, {{SK_SYSERR_HANDLE_EOF, {}}}, SK_STS_EOF, 2},
         ReadFailure{"reply refused, reason told",
                     {},
                     {kRefused, ScriptedDevice::statusReply(SK_STS_DEVICE_IS_BUSY)},
@@ -284,23 +252,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SK_STS_EOF,
                     3},
         ReadFailure{
-            "reply refused, reason refused too", {}, {kRefused, kRefused}, SK_STS_FAILURE, 4}),
-    [](const ::testing::TestParamInfo<ReadFailure> &p) {
-        std::string name;
-        for (const char *c = p.param.what; *c; ++c)
-            if (std::isalnum(static_cast<unsigned char>(*c)))
-                name += *c;
-        return name;
-    });
-
-TEST_F(ChannelTest, endOfFileIsResultTwoAndNeedsNoReason)
-{
-    auto core = openCore();
-    device->readReplies.push_back({SK_SYSERR_HANDLE_EOF, {}});
-    SKTL_AlignedBuffer buffer(8192, "test");
-    EXPECT_EQ(core->SK_ConfigRead(buffer.data(), 8192, 4110, 0), SK_STS_EOF);
-    EXPECT_EQ(device->transfers.size(), 2u);
-}
+            "reply refused, reason refused too", {}, {kRefused, kRefused}, SK_STS_FAILURE, 4}));
 
 TEST_F(ChannelTest, refusedWriteSurfacesTheStatusOfASecondExchange)
 {
@@ -357,11 +309,8 @@ TEST_F(ChannelTest, staleGenerationIsTriedThreeTimesOnFreshCores)
     EXPECT_EQ(generations, (std::vector<std::uint64_t>{100, 101, 102}));
     EXPECT_EQ(device->opened.size(), 3u);
     EXPECT_EQ(device->openSessions, 0);
-}
 
-TEST_F(ChannelTest, anyOtherStatusEndsTheRetryLoop)
-{
-    SK_CoreEntry entry{1, ".", "Core1"};
+    // Any other status ends the loop at once.
     std::vector<std::uint32_t> answers{SK_STS_INVALID_GENERATION_NUMBER, SK_STS_SUCCESS};
     int attempt = 0;
     EXPECT_EQ(SK_WithFreshCore(&entry, [&](SK_Core &) { return answers[attempt++]; }),
@@ -402,65 +351,6 @@ TEST_F(ChannelTest, callbackFormReturnsOneAndReportsTheResult)
               1u);
     EXPECT_EQ(seen.status, SK_STS_EOF);
     EXPECT_EQ(seen.bytes, 1024u);
-}
-
-struct WalkCase
-{
-    const char *what;
-    std::vector<std::uint8_t> image;
-    std::uint32_t disks, arrays;
-};
-
-class ImageWalk : public ::testing::TestWithParam<WalkCase>
-{
-};
-
-TEST_P(ImageWalk, endsCleanlyAndKeepsTheRecordsBefore)
-{
-    SK_Core core(GetParam().image.data(), static_cast<std::uint32_t>(GetParam().image.size()));
-    EXPECT_EQ(core.DiskCount, GetParam().disks) << GetParam().what;
-    EXPECT_EQ(core.ArrayCount, GetParam().arrays) << GetParam().what;
-}
-
-std::vector<std::uint8_t> arrayWithLength(std::uint32_t length)
-{
-    auto image = ImageBuilder(1).record(SK_TAG_DISK, 128).raw(SK_TAG_ARRAY).bytes();
-    image.resize(image.size() + 1020, 0);
-    SK_PutU32(image.data(), 512 + 128 + SK_ARRAY_LENGTH_OFFSET, length);
-    return image;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Images, ImageWalk,
-    ::testing::Values(
-        WalkCase{"first tag 0", ImageBuilder(1).raw(0).bytes(), 0, 0},
-        WalkCase{"header only", ImageBuilder(1).bytes(), 0, 0},
-        WalkCase{
-            "unknown tag ends the list",
-            ImageBuilder(1).record(SK_TAG_DISK, 128).raw(1234).record(SK_TAG_DISK, 128).bytes(), 1,
-            0},
-        WalkCase{"zero-length array", arrayWithLength(0), 1, 0},
-        WalkCase{"array shorter than its fixed part", arrayWithLength(200), 1, 0},
-        WalkCase{"array running past the image", arrayWithLength(0x7FFFFFF0u), 1, 0},
-        WalkCase{"array that fits", arrayWithLength(1020), 1, 1},
-        WalkCase{"disk cut short by the end",
-                 [] {
-                     auto image = ImageBuilder(1).record(SK_TAG_DISK, 128).bytes();
-                     image.resize(image.size() - 1);
-                     return image;
-                 }(),
-                 0, 0},
-        WalkCase{"image shorter than its header", std::vector<std::uint8_t>(100, 0xFF), 0, 0}));
-
-TEST(InMemoryCore, hasNoDeviceAndShortPaths)
-{
-    const auto image = ImageBuilder(5).record(SK_TAG_DISK, 128).bytes();
-    SK_Core core(image.data(), static_cast<std::uint32_t>(image.size()));
-    EXPECT_EQ(core.Handle, 0u);
-    EXPECT_STREQ(core.ChannelPath, "/Route0/Device0");
-    EXPECT_STREQ(core.RoutePrefix, "/Route");
-    EXPECT_EQ(core.Generation, 5u);
-    EXPECT_EQ(core.DiskCount, 1u);
 }
 
 // Records of the configuration layer are opaque here; a counting factory proves the
@@ -505,7 +395,7 @@ struct CountingFactory : SK_RecordFactory
     void destroy(SK_C_SEPDevice *r) const override { drop(r); }
 };
 
-TEST(RecordTables, areBuiltInImageOrderAndFreedWithTheCore)
+TEST(InMemoryCore, buildsTablesInImageOrderAndFreesThemWithTheCore)
 {
     CountingFactory factory;
     const SK_RecordFactory *previous = SK_SetRecordFactory(&factory);
@@ -517,6 +407,10 @@ TEST(RecordTables, areBuiltInImageOrderAndFreedWithTheCore)
                                .record(SK_TAG_DISK, 128)
                                .bytes();
         SK_Core core(image.data(), static_cast<std::uint32_t>(image.size()));
+        EXPECT_EQ(core.Handle, 0u); // an in-memory core has no device and short paths
+        EXPECT_STREQ(core.ChannelPath, "/Route0/Device0");
+        EXPECT_STREQ(core.RoutePrefix, "/Route");
+        EXPECT_EQ(core.Generation, 5u);
         ASSERT_EQ(core.DiskCount, 2u);
         EXPECT_EQ(*reinterpret_cast<int *>(core.Disks[0]), 1);
         EXPECT_EQ(*reinterpret_cast<int *>(core.Controllers[0]), 2);
@@ -527,6 +421,14 @@ TEST(RecordTables, areBuiltInImageOrderAndFreedWithTheCore)
     EXPECT_EQ(factory.destroyed, 3);
     EXPECT_EQ(SKTL_AllocationCount(), blocksBefore);
     SK_SetRecordFactory(previous);
+}
+
+// How a damaged image ends the walk is covered with the real records in the lookup tests.
+TEST(InMemoryCore, aZeroTagEndsTheRecordList)
+{
+    const auto image = ImageBuilder(1).raw(0).record(SK_TAG_DISK, 128).bytes();
+    SK_Core core(image.data(), static_cast<std::uint32_t>(image.size()));
+    EXPECT_EQ(core.DiskCount, 0u);
 }
 
 TEST(CoreNames, numberFollowsTheWordCoreInAnyCase)
