@@ -87,6 +87,9 @@ void tst_MainWindow::initTestCase()
     qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
     QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
     QCoreApplication::setOrganizationName(QStringLiteral("VOR-test"));
+    // Each suite keeps its settings in its own folder: suites run side by side.
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path());
 }
 
 void tst_MainWindow::init()
