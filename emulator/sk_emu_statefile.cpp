@@ -1,9 +1,11 @@
 #include "emulator/sk_emu_statefile.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -76,9 +78,30 @@ StateFileLock::~StateFileLock()
 #endif
 }
 
+namespace {
+
+// Whether the state file, or the temporary file that is about to replace it, exists:
+// then a failed open is worth another try.
+bool fileExistsOrIsBeingReplaced(const std::string &path)
+{
+    std::error_code ignored;
+    return std::filesystem::exists(path, ignored) ||
+           std::filesystem::exists(path + ".tmp", ignored);
+}
+
+} // namespace
+
 bool readStateText(const std::string &path, std::string &text, std::string &error)
 {
+    // On Windows a file being replaced by another process can refuse to open for a
+    // moment (a sharing violation while the rename completes); a short retry rides
+    // that out. Elsewhere the rename is atomic and the first attempt decides.
     std::ifstream in(path, std::ios::binary);
+    for (int attempt = 0; !in && attempt < 50 && fileExistsOrIsBeingReplaced(path); ++attempt) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        in.clear();
+        in.open(path, std::ios::binary);
+    }
     if (!in) {
         error = path + ": cannot be opened for reading";
         return false;
