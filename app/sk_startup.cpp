@@ -76,6 +76,16 @@ bool SK_ChooseTranslation(QTranslator &translator, QSettings &settings)
     return false;
 }
 
+bool SK_InstallQtTranslation(QTranslator &translator, const QString &language)
+{
+    // Qt's catalogue is embedded only for the languages the console is translated into;
+    // for the others Qt's own texts stay English like the console's.
+    if (!translator.load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
+                         QStringLiteral(":/translations/qt")))
+        return false;
+    return QCoreApplication::installTranslator(&translator);
+}
+
 int SK_RunConsole(QApplication &app)
 {
     SK_SetApplicationIdentity();
@@ -83,8 +93,11 @@ int SK_RunConsole(QApplication &app)
         return 0;
 
     QTranslator translator;
+    QTranslator qtTranslator;
     QSettings settings;
-    SK_ChooseTranslation(translator, settings);
+    if (SK_ChooseTranslation(translator, settings))
+        SK_InstallQtTranslation(qtTranslator,
+                                settings.value(SK_SettingsKey::ApplicationLanguage).toString());
 
     QString backendError;
     if (!SK_InstallBackend(backendError)) {
@@ -101,6 +114,7 @@ int SK_RunConsole(QApplication &app)
         window.show();
         result = app.exec();
     }
+    QCoreApplication::removeTranslator(&qtTranslator);
     QCoreApplication::removeTranslator(&translator);
     return result;
 }

@@ -21,6 +21,10 @@ bool SK_RefuseSecondCopy();
 // Returns true when a translation was installed.
 bool SK_ChooseTranslation(QTranslator &translator, QSettings &settings);
 
+// Installs Qt's own translation (standard buttons and dialogs) for the language code, when
+// the console carries one. Returns true when it was installed.
+bool SK_InstallQtTranslation(QTranslator &translator, const QString &language);
+
 // Everything after the QApplication exists: identity, single instance, translation,
 // main window, event loop. Returns exec()'s value, or 0 for a refused second copy.
 int SK_RunConsole(QApplication &app);

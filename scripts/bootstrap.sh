@@ -17,7 +17,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 packages=(
     build-essential cmake ninja-build pkg-config
-    qtbase5-dev qttools5-dev qttools5-dev-tools
+    qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     nlohmann-json3-dev googletest libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth
     clang libclang-rt-dev clang-format

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -203,6 +204,14 @@ void tst_Startup::languageReachesTheWindow()
     QCOMPARE(SK_ChooseTranslation(translator, settings), !resource.isEmpty());
     QCOMPARE(settings.value(SK_SettingsKey::ApplicationLanguage).toString(), storedAfter);
     QVERIFY2(translator.filePath().endsWith(resource), qPrintable(translator.filePath()));
+    // Qt's own button texts follow where Qt's catalogue is carried: German only.
+    QTranslator qtTranslator;
+    const bool german = storedAfter == QLatin1String("de");
+    QCOMPARE(!resource.isEmpty() && SK_InstallQtTranslation(qtTranslator, storedAfter), german);
+    QMessageBox box(QMessageBox::Question, QString(), QString(),
+                    QMessageBox::Yes | QMessageBox::Cancel);
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(),
+             german ? QStringLiteral("Abbrechen") : QStringLiteral("Cancel"));
 
     EmulatedHostScope host;
     SK_MainWindow window;
