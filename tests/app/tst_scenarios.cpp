@@ -7,12 +7,14 @@
 #include "dialogs/dialogs.h"
 #include "dialogs/sk_treeitems.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -34,6 +36,8 @@ using namespace sk_emu;
 // Console numbers: arrays by route, disks by port + 1 on the one controller.
 constexpr int kData = 2, kNew = 3;
 constexpr int kSpareDisk = 6, kNvme = 7;
+// The row of RAID 5 in the type lists of the create and transform dialogs.
+constexpr int kRaid5Row = 4;
 constexpr std::uint64_t kHdd3 = 0x5000C500E4B2117Cull;
 constexpr std::uint64_t kGiB = 2097152; // sectors
 const QString kNoTime = QStringLiteral("   --   ");
@@ -175,6 +179,19 @@ bool pickArray(SK_MainWindow &window, int id)
     QTreeWidgetItem *row = listRow(&window, id);
     if (row)
         window.arrayListSelectionChanged(row, 0);
+    return window.currentArray() == quint32(id);
+}
+
+// Presses the array's row in the array tree, as a user picking it there would.
+bool pickInTree(SK_MainWindow &window, int id)
+{
+    QTreeWidget *tree = pane(&window, "arrayTree");
+    QTreeWidgetItem *row = treeRow(&window, id);
+    if (!row)
+        return false;
+    tree->scrollToItem(row);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      tree->visualItemRect(row).center());
     return window.currentArray() == quint32(id);
 }
 
@@ -354,7 +371,7 @@ void tst_Scenarios::raid5IsCreatedAndInitialised()
         auto *create = qobject_cast<SK_CreateDialog *>(dialog);
         if (!create)
             return;
-        create->findChild<QComboBox *>(QStringLiteral("arrayTypeSel"))->setCurrentIndex(4);
+        create->findChild<QComboBox *>(QStringLiteral("arrayTypeSel"))->setCurrentIndex(kRaid5Row);
         auto *disks = create->findChild<QTreeWidget *>(QStringLiteral("diskList"));
         for (int i = 0; i < disks->topLevelItemCount(); ++i) {
             QTreeWidgetItem *row = disks->topLevelItem(i);
@@ -468,18 +485,35 @@ void tst_Scenarios::mirrorIsTransformedIntoRaid5()
     SK_MainWindow window;
     QVERIFY(opened(window, 3));
 
-    // The transform dialog is covered on its own; here the service sends the same
-    // command its commit would.
-    SK_Create request;
-    request.name = QStringLiteral("Mirror");
-    request.type = QStringLiteral("RAID5");
-    request.cache = QStringLiteral("RW");
-    for (int i = 0; i < 3; ++i)
-        request.disks[i] = quint32(kNvme + i);
-    request.diskCount = 3;
-    request.size = window.api()->TransformArray(request, kNew, true);
-    QVERIFY2(request.size > 0, qPrintable(QString::number(request.size)));
-    QCOMPARE(window.api()->TransformArray(request, kNew, false), 1);
+    // The user picks the mirror in the array tree and asks for its transform: the
+    // mirror's own disks and type, then RAID 5 with the third NVMe disk, at its most.
+    QVERIFY(pickInTree(window, kNew));
+    expectActions(&window, {"transformAct"}, {"pauseAct"});
+    QString verdict;
+    {
+        ModalAnswerer answerer([&verdict](QDialog *dialog) {
+            if (!qobject_cast<SK_TransformDialog *>(dialog))
+                return;
+            click(dialog, "sameButton");
+            widget<QComboBox>(dialog, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
+            tickRows(widget<QTreeWidget>(dialog, "diskList"), {kNvme + 2}, Qt::Checked,
+                     SK_Role::DeviceId);
+            click(dialog, "setCurrentCapMaxButton");
+            verdict = widget<QLabel>(dialog, "transformWarningLabel")->text();
+            click(dialog, "commitButton");
+        });
+        const int before = deliveries(window);
+        menuAction(&window, QStringLiteral("transformAct"))->trigger();
+        QCOMPARE(answerer.titles, QStringList{QStringLiteral("Transform")});
+        QVERIFY2(delivered(window, before, [&] { return taskBar(&window, kNew) != nullptr; }),
+                 qPrintable(verdict));
+    }
+    const Model started = m_host->host->model();
+    const Array *mirror = started.findArrayByRoute(kNew);
+    QVERIFY(mirror);
+    QCOMPARE(mirror->task.type, code::TaskTransform);
+    QVERIFY(mirror->target && mirror->target->type == code::TypeParity);
+    QCOMPARE(mirror->target->members.size(), std::size_t(3));
 
     m_host->clock->advance(60 * 1000);
     QVERIFY(refreshUntil(
@@ -523,15 +557,24 @@ void tst_Scenarios::cachedArrayIsBuiltAndDeleted()
     QVERIFY(opened(window, 4));
     QVERIFY2(menuAction(&window, QStringLiteral("cacheArraysAct")), "drivers of the 9.0.0 line");
 
-    // The caching dialog is covered on its own; the service sends its commit here.
-    SK_Tier tier;
-    tier.name = QStringLiteral("Paired");
-    tier.cache = QStringLiteral("RW");
-    tier.arrays[0] = kBulk;
-    tier.arrays[1] = kFast;
-    tier.arrayCount = 2;
-    QCOMPARE(window.api()->CreateTier(tier, false), 1);
-    QVERIFY(refreshUntil(window, [&] { return treeRow(&window, kTier) != nullptr; }));
+    // The user pairs the fast array, hot, with the bulk one, cold, in the caching dialog.
+    {
+        ModalAnswerer answerer([](QDialog *dialog) {
+            if (!qobject_cast<SK_TieringDialog *>(dialog))
+                return;
+            // Each tick refills the other list: its rows are looked up after the tick.
+            tickRows(widget<QTreeWidget>(dialog, "coldArrayList"), {kBulk}, Qt::Checked,
+                     SK_Role::DeviceId);
+            tickRows(widget<QTreeWidget>(dialog, "hotArrayList"), {kFast}, Qt::Checked,
+                     SK_Role::DeviceId);
+            widget<QLineEdit>(dialog, "arrayNameInput")->setText(QStringLiteral("Paired"));
+            click(dialog, "commitButton");
+        });
+        const int before = deliveries(window);
+        menuAction(&window, QStringLiteral("cacheArraysAct"))->trigger();
+        QCOMPARE(answerer.titles, QStringList{QStringLiteral("Caching")});
+        QVERIFY(delivered(window, before, [&] { return treeRow(&window, kTier) != nullptr; }));
+    }
     QCOMPARE(treeText(&window, kTier).simplified(), QStringLiteral("Array 5 Paired"));
     QTreeWidgetItem *type = treeRow(&window, kTier)->child(0);
     QCOMPARE(type->text(0), QStringLiteral("RAIDTIER"));
