@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>Enter an array name of up to 30 characters.</source>
-        <translation>Geben Sie einen Array-Namen mit höchstens 30 Zeichen ein.</translation>
+        <translation>Neuer Array-Name (bis zu 30 Zeichen):</translation>
     </message>
     <message>
         <source>OK</source>
@@ -106,7 +106,7 @@
     </message>
     <message>
         <source>Max Capacity</source>
-        <translation>Max. Kapazität</translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Cache Options:</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Select All</source>
-        <translation>Alle auswählen</translation>
+        <translation>Alle wählen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1425,7 +1425,7 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
     </message>
     <message>
         <source>Confirm</source>
-        <translation>Bestätigen</translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1679,7 +1679,7 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
     </message>
     <message>
         <source>Max Capacity</source>
-        <translation>Max. Kapazität</translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Select</source>
@@ -1834,15 +1834,15 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
     </message>
     <message>
         <source>Assign as Dedicated Spare</source>
-        <translation>Als dediziertes Ersatzlaufwerk zuweisen</translation>
+        <translation>Dediziertes Ersatzlaufwerk</translation>
     </message>
     <message>
         <source>Assign as Global Spare</source>
-        <translation>Als globales Ersatzlaufwerk zuweisen</translation>
+        <translation>Globales Ersatzlaufwerk</translation>
     </message>
     <message>
         <source>Identify Disk using LEDs</source>
-        <translation>Datenträger per LED identifizieren</translation>
+        <translation>Per LED identifizieren</translation>
     </message>
     <message>
         <source>Remove Device</source>
@@ -1862,11 +1862,11 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
     </message>
     <message>
         <source>Remove as Global Spare</source>
-        <translation>Als globales Ersatzlaufwerk entfernen</translation>
+        <translation>Als Ersatzlaufwerk entfernen</translation>
     </message>
     <message>
         <source>Remove as Dedicated Spare</source>
-        <translation>Als dediziertes Ersatzlaufwerk entfernen</translation>
+        <translation>Als Ersatzlaufwerk entfernen</translation>
     </message>
     <message>
         <source>Confirm Spare Assignment</source>
@@ -1909,7 +1909,7 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
     </message>
     <message>
         <source>Un-Initiliazed</source>
-        <translation>Nicht initialisierte</translation>
+        <translation>Neue</translation>
     </message>
     <message>
         <source>All</source>
@@ -1917,7 +1917,7 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
     </message>
     <message>
         <source>Initialize Selected</source>
-        <translation>Auswahl initialisieren</translation>
+        <translation>Initialisieren</translation>
     </message>
     <message>
         <source>Cancel</source>

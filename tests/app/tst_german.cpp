@@ -210,8 +210,7 @@ void tst_German::textsComeBackGerman_data()
     QTest::newRow("column shared by the disk lists")
         << QByteArray("SK_initDisksDialog") << QByteArray("Free Space") << "Freier Speicher";
     QTest::newRow("form text") << QByteArray("SK_diskSpareDialog")
-                               << QByteArray("Assign as Global Spare")
-                               << "Als globales Ersatzlaufwerk zuweisen";
+                               << QByteArray("Assign as Global Spare") << "Globales Ersatzlaufwerk";
     QTest::newRow("question") << QByteArray("SK_CreateDialog") << QByteArray("Confirm Create")
                               << "Erstellen bestätigen";
     QTest::newRow("fragment keeps its blank")

@@ -15,9 +15,13 @@
 #include <QStringList>
 #include <QStyleFactory>
 #include <QTimer>
+#include <QTranslator>
 #include <QTreeWidget>
 #include <QVariant>
 #include <QtTest>
+
+#include <memory>
+#include <vector>
 
 // The child of `parent` named `name`; a missing one ends the suite, since every check
 // after it would only fail for the same reason.
@@ -171,11 +175,25 @@ inline QString screenshotFolder()
 class Screenshots
 {
 public:
+    // SK_DIALOG_SHOTS_QM may list .qm files (separated by ':') to install first, so the
+    // dialogs made afterwards can be looked at in another language.
     explicit Screenshots(const QString &into) : folder(into), light(QApplication::palette())
     {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        const QString files = qEnvironmentVariable("SK_DIALOG_SHOTS_QM");
+        for (const QString &file : files.split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
+            auto translator = std::make_unique<QTranslator>();
+            QVERIFY2(translator->load(file), qPrintable(file));
+            QCoreApplication::installTranslator(translator.get());
+            translators.push_back(std::move(translator));
+        }
     }
-    ~Screenshots() { QApplication::setPalette(light); }
+    ~Screenshots()
+    {
+        QApplication::setPalette(light);
+        for (const auto &translator : translators)
+            QCoreApplication::removeTranslator(translator.get());
+    }
     Screenshots(const Screenshots &) = delete;
     Screenshots &operator=(const Screenshots &) = delete;
 
@@ -197,4 +215,5 @@ public:
 private:
     const QString folder;
     const QPalette light;
+    std::vector<std::unique_ptr<QTranslator>> translators;
 };
