@@ -69,21 +69,13 @@ TEST_F(EmulatedChannel, controlDeviceIsGoneWithoutTheConfigurationDriver)
     EXPECT_EQ(core.Handle, 0u);
 }
 
-TEST_F(EmulatedChannel, writeWithTheCurrentGenerationIsCarriedOut)
-{
-    acceptRescans();
-    SK_Core core(".", "Core1", 0);
-    EXPECT_EQ(sendRescan(core), 1u);
-    EXPECT_EQ(handled, 1);
-    EXPECT_EQ(scope.host->generation(), 28u);
-}
-
-TEST_F(EmulatedChannel, staleGenerationIsRefusedAndExplainedAs38)
+TEST_F(EmulatedChannel, writeWithTheCurrentGenerationIsCarriedOutAndAStaleOneRefused)
 {
     acceptRescans();
     SK_Core stale(".", "Core1", 0);
     SK_Core current(".", "Core1", 0);
     EXPECT_EQ(sendRescan(current), 1u);
+    EXPECT_EQ(scope.host->generation(), 28u);
     EXPECT_EQ(sendRescan(stale), SK_STS_INVALID_GENERATION_NUMBER);
     EXPECT_EQ(handled, 1);
 
@@ -233,28 +225,30 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(EmulatedChannel, eventLogIsReadByCursor)
 {
     SK_Core core(".", "Core1", 0);
-    SKTL_AlignedBuffer reply(8192, "test");
-    ASSERT_EQ(core.SK_ConfigRead(reply.data(), 8192, 4098, 3), 1u);
-    EXPECT_NE(SK_GetU32(reply.data(), 8), 0u);
-    EXPECT_EQ(SK_GetU32(reply.data(), 12), 4u);
-    EXPECT_EQ(SK_GetU16(reply.data(), 512), 1001u);
-    EXPECT_EQ(SK_GetU32(reply.data(), 516), 3u);
+    SKTL_AlignedBuffer buffer(8192, "test");
+    const std::uint8_t *reply = buffer.data();
+    auto readFrom = [&](std::uint32_t cursor) {
+        std::memset(buffer.data(), 0, 8192);
+        return core.SK_ConfigRead(buffer.data(), 8192, 4098, cursor);
+    };
+    ASSERT_EQ(readFrom(3), 1u);
+    EXPECT_NE(SK_GetU32(reply, 8), 0u);
+    EXPECT_EQ(SK_GetU32(reply, 12), 4u);
+    EXPECT_EQ(SK_GetU16(reply, 512), 1001u);
+    EXPECT_EQ(SK_GetU32(reply, 516), 3u);
 
-    std::memset(reply.data(), 0, 8192);
-    ASSERT_EQ(core.SK_ConfigRead(reply.data(), 8192, 4098, 4), 1u);
-    EXPECT_EQ(SK_GetU16(reply.data(), 512), 1138u);
-    EXPECT_EQ(SK_GetU32(reply.data(), 520), 1u); // array 1
+    ASSERT_EQ(readFrom(4), 1u);
+    EXPECT_EQ(SK_GetU16(reply, 512), 1138u);
+    EXPECT_EQ(SK_GetU32(reply, 520), 1u); // array 1
 
-    std::memset(reply.data(), 0, 8192);
-    ASSERT_EQ(core.SK_ConfigRead(reply.data(), 8192, 4098, 19), 1u);
-    EXPECT_EQ(SK_GetU32(reply.data(), 8), 0u);
-    EXPECT_EQ(SK_GetU32(reply.data(), 12), 19u);
+    ASSERT_EQ(readFrom(19), 1u);
+    EXPECT_EQ(SK_GetU32(reply, 8), 0u);
+    EXPECT_EQ(SK_GetU32(reply, 12), 19u);
 
     scope.host->injectEvent(1037, {});
-    std::memset(reply.data(), 0, 8192);
-    ASSERT_EQ(core.SK_ConfigRead(reply.data(), 8192, 4098, 19), 1u);
-    EXPECT_EQ(SK_GetU16(reply.data(), 512), 1037u);
-    EXPECT_EQ(SK_GetU32(reply.data(), 12), 20u);
+    ASSERT_EQ(readFrom(19), 1u);
+    EXPECT_EQ(SK_GetU16(reply, 512), 1037u);
+    EXPECT_EQ(SK_GetU32(reply, 12), 20u);
 }
 
 TEST(EventRing, dropsTheOldestAndHandsOutWhatIsLeft)
@@ -298,28 +292,20 @@ TEST_F(EmulatedChannel, statisticsMoveWithTheClockAndResetPerInterval)
     EXPECT_GE(SK_GetU64(reply.data(), 576), coreRead); // the total keeps it
 }
 
+// The installed platform's view is the host's. tst_system asks the view's questions one
+// by one; these are the ones it leaves out.
 TEST_F(EmulatedChannel, storageViewAnswersFromTheModel)
 {
     SK_SystemView &view = SK_CurrentPlatform().system();
-    EXPECT_EQ(view.fixedDriveLetters(), "CD");
-    EXPECT_EQ(view.systemDriveLetter(), 'C');
-    std::vector<std::uint32_t> disks;
-    ASSERT_TRUE(view.volumeDiskNumbers('d', disks));
-    EXPECT_EQ(disks, std::vector<std::uint32_t>{1});
-    std::uint32_t number = 99, route = 0;
+    std::uint32_t number = 99, route = 0, instance = 0, error = 0;
     EXPECT_EQ(view.findOsDiskNumber(1, 2, number), 1u);
     EXPECT_EQ(number, 1u);
     EXPECT_EQ(view.arrayRouteOfOsDisk(0, route), 1u);
     EXPECT_EQ(route, 1u);
     EXPECT_EQ(view.arrayRouteOfOsDisk(2, route), 3u); // the unused NVMe disk is no array
-    EXPECT_EQ(view.lockAndDismountVolume('C'), SK_VolumeLock::LockFailed);
-    EXPECT_EQ(view.lockAndDismountVolume('D'), SK_VolumeLock::Done);
-    EXPECT_EQ(view.lockAndDismountVolume('Q'), SK_VolumeLock::OpenFailed);
 
-    std::uint32_t instance = 0, error = 0;
     ASSERT_TRUE(view.volumeDeviceNumber('D', number, error));
     ASSERT_TRUE(view.findDeviceInstance(number, instance, error));
-    EXPECT_TRUE(view.requestDeviceEject(instance).ejected);
     scope.host->modify([](Model &m) {
         m.volumes[1].ejectVeto = "\\Device\\HarddiskVolume4";
         m.arrays[0].attributes |= code::AttributeHidden;
@@ -330,12 +316,7 @@ TEST_F(EmulatedChannel, storageViewAnswersFromTheModel)
     EXPECT_EQ(vetoed.vetoName, "\\Device\\HarddiskVolume4");
     EXPECT_EQ(view.findOsDiskNumber(1, 1, number), 3u); // hidden arrays have no disk
 
-    std::vector<std::string> drivers;
-    ASSERT_TRUE(view.loadedDrivers(drivers));
-    EXPECT_NE(std::find(drivers.begin(), drivers.end(), "skbottom.sys"), drivers.end());
-    EXPECT_TRUE(view.isElevated());
     EXPECT_EQ(view.computerName(), "WS-ENG-0417");
-    EXPECT_FALSE(view.isProcessRunning("skpopup.exe"));
     const auto versions = view.fileVersions("C:\\Windows\\System32\\drivers\\", "sk*.sys");
     ASSERT_EQ(versions.size(), 3u);
     EXPECT_EQ(versions[0].strings[7],

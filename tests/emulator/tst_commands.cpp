@@ -212,36 +212,13 @@ TEST_F(Commands, createFlagsChooseTheTaskAndTheSizeShrinksTheMembers)
     EXPECT_EQ(array(0xA2).layout.members[0].offset, 100u * 2048);
 }
 
-void smartError(Model &m)
-{
-    m.disks[1].state = code::DiskSmartError;
-}
-void offline(Model &m)
-{
-    m.disks[1].state = code::DiskOffline;
-}
-void globalSpare(Model &m)
-{
-    m.disks[1].globalSpare = true;
-}
-void raid6Disabled(Model &m)
-{
-    m.host.disabledLevels = {"RAID6"};
-}
+// An array 0xA9 on route 1, with no layout.
 void arrayA9(Model &m)
 {
     Array a;
     a.id = 0xA9;
     a.route = 1;
     m.arrays.push_back(a);
-}
-void fullDisks(Model &m)
-{
-    arrayA9(m);
-    m.arrays[0].id = 0xA8;
-    m.arrays[0].layout.firstCount = 2;
-    m.arrays[0].layout.members = {Member{0xD00, 0, 1000000, 0, 1000000, 0},
-                                  Member{0xD01, 0, 1000000, 0, 1000000, 0}};
 }
 
 struct Refusal
@@ -281,20 +258,32 @@ const std::vector<std::uint64_t> kPair{0xD00, 0xD01};
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, CreateRefusals,
-    ::testing::Values(Refusal{"unknown disk", nullptr, 7158, 2, {0xD00, 0xDFF}, 100, 11},
-                      Refusal{"the same disk twice", nullptr, 7158, 2, {0xD00, 0xD00}, 100, 44},
-                      Refusal{"a disk with SMART errors", smartError, 7158, 2, kPair, 100, 75},
-                      Refusal{"an offline disk", offline, 7158, 2, kPair, 100, 42},
-                      Refusal{"a global spare", globalSpare, 7158, 2, kPair, 100, 77},
-                      Refusal{"a disabled level", raid6Disabled, 7162, 4,
-                              std::vector<std::uint64_t>{0xD00, 0xD01, 0xD02, 0xD03}, 100, 56},
-                      Refusal{"more than fits", nullptr, 7158, 2, kPair, kMemberMiB + 1, 45},
-                      Refusal{"counts that don't match the disks", nullptr, 7157, 4,
-                              std::vector<std::uint64_t>{0xD00, 0xD01, 0xD02}, 100, 7},
-                      Refusal{"RAID5 of two", nullptr, 7157, 2, kPair, 100, 7},
-                      Refusal{"a type the drivers don't build", nullptr, 7160, 2, kPair, 100, 43},
-                      Refusal{"an ID already in use", arrayA9, 7158, 2, kPair, 100, 44},
-                      Refusal{"full disks", fullDisks, 7158, 2, kPair, 100, 45}));
+    ::testing::Values(
+        Refusal{"unknown disk", nullptr, 7158, 2, {0xD00, 0xDFF}, 100, 11},
+        Refusal{"the same disk twice", nullptr, 7158, 2, {0xD00, 0xD00}, 100, 44},
+        Refusal{"a disk with SMART errors",
+                [](Model &m) { m.disks[1].state = code::DiskSmartError; }, 7158, 2, kPair, 100, 75},
+        Refusal{"an offline disk", [](Model &m) { m.disks[1].state = code::DiskOffline; }, 7158, 2,
+                kPair, 100, 42},
+        Refusal{"a global spare", [](Model &m) { m.disks[1].globalSpare = true; }, 7158, 2, kPair,
+                100, 77},
+        Refusal{"a disabled level", [](Model &m) { m.host.disabledLevels = {"RAID6"}; }, 7162, 4,
+                std::vector<std::uint64_t>{0xD00, 0xD01, 0xD02, 0xD03}, 100, 56},
+        Refusal{"more than fits", nullptr, 7158, 2, kPair, kMemberMiB + 1, 45},
+        Refusal{"counts that don't match the disks", nullptr, 7157, 4,
+                std::vector<std::uint64_t>{0xD00, 0xD01, 0xD02}, 100, 7},
+        Refusal{"RAID5 of two", nullptr, 7157, 2, kPair, 100, 7},
+        Refusal{"a type the drivers don't build", nullptr, 7160, 2, kPair, 100, 43},
+        Refusal{"an ID already in use", arrayA9, 7158, 2, kPair, 100, 44},
+        Refusal{"full disks",
+                [](Model &m) {
+                    arrayA9(m);
+                    m.arrays[0].id = 0xA8;
+                    m.arrays[0].layout.firstCount = 2;
+                    m.arrays[0].layout.members = {Member{0xD00, 0, 1000000, 0, 1000000, 0},
+                                                  Member{0xD01, 0, 1000000, 0, 1000000, 0}};
+                },
+                7158, 2, kPair, 100, 45}));
 
 TEST_F(Commands, transformGrowsTheArrayWhileShowingBothLayouts)
 {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 using namespace sk_emu;
@@ -72,10 +73,29 @@ Model smallModel()
     return m;
 }
 
-std::string text(const std::vector<std::uint8_t> &image, std::size_t at, std::size_t width)
+using Image = std::vector<std::uint8_t>;
+
+// Checks the fields of the record at `record`, written as "offset[kind]=value": no kind
+// a u32, w a u16, q a u64.
+void expectFields(const Image &image, std::size_t record, const std::string &fields)
 {
-    std::string s(reinterpret_cast<const char *>(image.data() + at), width);
-    return s.substr(0, s.find('\0'));
+    std::istringstream in(fields);
+    for (std::string token; in >> token;) {
+        std::size_t end = 0;
+        const std::size_t at = record + std::stoul(token, &end);
+        const std::uint64_t want = std::stoull(token.substr(token.find('=') + 1), nullptr, 0);
+        const std::uint64_t got = token[end] == 'w'   ? SK_GetU16(image.data(), at)
+                                  : token[end] == 'q' ? SK_GetU64(image.data(), at)
+                                                      : SK_GetU32(image.data(), at);
+        EXPECT_EQ(got, want) << "record at " << record << ": " << token;
+    }
+}
+
+// A text field, cut at its first zero byte or the whole width when it fills it.
+void expectText(const Image &image, std::size_t at, std::size_t width, const char *value)
+{
+    const std::string s(reinterpret_cast<const char *>(image.data() + at), width);
+    EXPECT_EQ(s.substr(0, s.find('\0')), value) << "text at " << at;
 }
 
 // Offsets of the records in the image of smallModel(): the core's device, the
@@ -85,126 +105,62 @@ constexpr std::size_t kCore = 512, kController = 768, kDisk0 = 904, kEnclosure =
 
 TEST(Image, headerCarriesTheGenerationAndTheRecordsFollowInOrder)
 {
-    const auto image = writeImage(smallModel(), ImageOptions{false, 9});
+    const Image image = writeImage(smallModel(), ImageOptions{false, 9});
     ASSERT_EQ(image.size(), kArray + 512 + 2 * 64 + 16);
-    EXPECT_EQ(SK_GetU64(image.data(), 52), 0x1122334455ull);
-    EXPECT_EQ(SK_GetU32(image.data(), 4), 9u);
-    EXPECT_EQ(SK_GetU32(image.data(), kCore), 9660u);
-    EXPECT_EQ(SK_GetU32(image.data(), kController), 9662u);
-    EXPECT_EQ(SK_GetU32(image.data(), kDisk0), 9660u);
-    EXPECT_EQ(SK_GetU32(image.data(), kEnclosure), 9663u);
-    EXPECT_EQ(SK_GetU32(image.data(), kArray), 9661u);
+    expectFields(image, 0, "52q=0x1122334455 4=9 512=9660 768=9662 904=9660 1672=9663 1736=9661");
+    // The core's own device comes first, with the build text.
+    expectFields(image, kCore, "36=4609 12w=0");
+    expectText(image, kCore + 136, 64, "SKRAID test build 77");
 }
 
-TEST(Image, coreDeviceComesFirstWithTheBuildText)
+TEST(Image, deviceRecordFieldsSitAtTheirOffsets)
 {
-    const auto image = writeImage(smallModel(), {});
-    EXPECT_EQ(SK_GetU32(image.data(), kCore + 36), 4609u);
-    EXPECT_EQ(SK_GetU16(image.data(), kCore + 12), 0u);
-    EXPECT_EQ(text(image, kCore + 136, 64), "SKRAID test build 77");
-}
+    const Image image = writeImage(smallModel(), {});
+    expectFields(image, kController,
+                 "4q=0xC0 14w=1 96q=0xABCDEF 104=6 108w=0x1F3C 110w=0x43B6 112=0 132=0x17");
+    expectText(image, kController + 36, 16, "CTRL-NAME-16CHAR");
+    expectText(image, kController + 56, 32, "BIOS");
 
-TEST(Image, controllerFieldsSitAtTheirOffsets)
-{
-    const auto image = writeImage(smallModel(), {});
-    const std::uint8_t *r = image.data() + kController;
-    EXPECT_EQ(SK_GetU64(r, 4), 0xC0u);
-    EXPECT_EQ(SK_GetU16(r, 14), 1u);
-    EXPECT_EQ(std::string(reinterpret_cast<const char *>(r + 36), 16), "CTRL-NAME-16CHAR");
-    EXPECT_EQ(text(image, kController + 56, 32), "BIOS");
-    EXPECT_EQ(SK_GetU64(r, 96), 0xABCDEFu);
-    EXPECT_EQ(SK_GetU32(r, 104), 6u);
-    EXPECT_EQ(SK_GetU16(r, 108), 0x1F3Cu);
-    EXPECT_EQ(SK_GetU16(r, 110), 0x43B6u);
-    EXPECT_EQ(SK_GetU32(r, 112), 0u);
-    EXPECT_EQ(SK_GetU32(r, 132), 0x17u);
-}
+    // The second disk, port 1 (device route 2): it holds one extent of 40000 sectors from
+    // sector 8; of its usable 97952 the largest free run is 57944, the total 57952.
+    const std::size_t disk1 = kDisk0 + 256;
+    expectFields(image, disk1,
+                 "4q=0xD1 12w=2 14w=1 28q=100000 36=4608 44=12288 48=0 84=0x400000 88=0x104 "
+                 "200q=57944 208q=57952");
+    expectText(image, disk1 + 128, 8, "FW123456"); // fills its 8 bytes: unterminated
+    expectText(image, disk1 + 136, 40, "MODEL-1");
+    expectText(image, disk1 + 176, 20, "SERIAL1");
+    expectText(image, disk1 + 196, 2, "01"); // controller and channel digits
+    expectText(image, disk1 + 216, 8, "ATA");
+    expectFields(image, kDisk0 + 2 * 256, "48=256"); // the global spare
 
-TEST(Image, diskFieldsSitAtTheirOffsets)
-{
-    const auto image = writeImage(smallModel(), {});
-    const std::uint8_t *r = image.data() + kDisk0 + 256; // the second disk, port 1
-    EXPECT_EQ(SK_GetU64(r, 4), 0xD1u);
-    EXPECT_EQ(SK_GetU16(r, 12), 2u); // port + 1
-    EXPECT_EQ(SK_GetU16(r, 14), 1u); // controller route
-    EXPECT_EQ(SK_GetU64(r, 28), 100000u);
-    EXPECT_EQ(SK_GetU32(r, 36), 4608u);
-    EXPECT_EQ(SK_GetU32(r, 44), 12288u);
-    EXPECT_EQ(SK_GetU32(r, 48), 0u);
-    EXPECT_EQ(SK_GetU32(r, 84), code::FeatureWriteCache);
-    EXPECT_EQ(SK_GetU32(r, 88), code::PortSata | code::Port6G);
-    EXPECT_EQ(std::string(reinterpret_cast<const char *>(r + 128), 8), "FW123456");
-    EXPECT_EQ(text(image, kDisk0 + 256 + 136, 40), "MODEL-1");
-    EXPECT_EQ(text(image, kDisk0 + 256 + 176, 20), "SERIAL1");
-    EXPECT_EQ(r[196], '0');
-    EXPECT_EQ(r[197], '1');
-    // Disk 1 holds one extent from sector 8; the rest of its usable area is free.
-    const std::uint64_t usable = 100000 - kMetadataSectors;
-    EXPECT_EQ(SK_GetU64(r, 200), usable - 40008);
-    EXPECT_EQ(SK_GetU64(r, 208), usable - 40000);
-    EXPECT_EQ(text(image, kDisk0 + 256 + 216, 8), "ATA");
-    EXPECT_EQ(SK_GetU32(image.data(), kDisk0 + 2 * 256 + 48), 256u); // the global spare
-}
-
-TEST(Image, enclosureFieldsSitAtTheirOffsets)
-{
-    const auto image = writeImage(smallModel(), {});
-    EXPECT_EQ(SK_GetU64(image.data(), kEnclosure + 4), 0xE0u);
-    EXPECT_EQ(text(image, kEnclosure + 20, 8), "VENDOR");
-    EXPECT_EQ(text(image, kEnclosure + 28, 16), "PRODUCT");
-    EXPECT_EQ(text(image, kEnclosure + 44, 4), "R1");
-    EXPECT_EQ(text(image, kEnclosure + 48, 8), "SN1");
+    expectFields(image, kEnclosure, "4q=0xE0");
+    expectText(image, kEnclosure + 20, 8, "VENDOR");
+    expectText(image, kEnclosure + 28, 16, "PRODUCT");
+    expectText(image, kEnclosure + 44, 4, "R1");
+    expectText(image, kEnclosure + 48, 8, "SN1");
 }
 
 TEST(Image, arrayFixedPartAndTablesSitAtTheirOffsets)
 {
-    const auto image = writeImage(smallModel(), {});
-    const std::uint8_t *r = image.data() + kArray;
-    EXPECT_EQ(SK_GetU32(r, 8), 512u);
-    EXPECT_EQ(SK_GetU32(r, 12), 7158u);
-    EXPECT_EQ(SK_GetU32(r, 16), 21336u);
-    EXPECT_EQ(SK_GetU32(r, 24), 41377u);
-    EXPECT_EQ(SK_GetU64(r, 44), 0xA1u);
-    EXPECT_EQ(SK_GetU16(r, 52), 5u);
-    EXPECT_EQ(SK_GetU64(r, 80), 40000u);
-    EXPECT_EQ(SK_GetU64(r, 96), 9u);
-    EXPECT_EQ(SK_GetU32(r, 104), 2u);
-    EXPECT_EQ(SK_GetU32(r, 108), 1u);
-    EXPECT_EQ(SK_GetU32(r, 112), 2u);
-    EXPECT_EQ(SK_GetU32(r, 116), 0u);
-    EXPECT_EQ(SK_GetU32(r, 128), 0xC0000000u);
-    EXPECT_EQ(SK_GetU32(r, 140), 1u);
-    EXPECT_EQ(SK_GetU32(r, 144), 512u + 2 * 64 + 16);
-    EXPECT_EQ(SK_GetU32(r, 148), 12345u);
-    EXPECT_EQ(SK_GetU32(r, 152), 0x200u);
-    EXPECT_EQ(SK_GetU32(r, 168), 70u);
+    const Image image = writeImage(smallModel(), {});
+    // No substitutes for plain members: 252 and 260 stay zero.
+    expectFields(image, kArray,
+                 "8=512 12=7158 16=21336 24=41377 44q=0xA1 52w=5 80q=40000 96q=9 104=2 108=1 "
+                 "112=2 116=0 128=0xC0000000 140=1 144=656 148=12345 152=0x200 168=70 208=1 "
+                 "252q=0 260q=0 272=2");
     // The display name fills its 32 bytes and is not terminated.
-    EXPECT_EQ(std::string(reinterpret_cast<const char *>(r + 176), 32),
-              "Thirty-two bytes of a long name!");
-    EXPECT_EQ(SK_GetU32(r, 208), 1u);
-    EXPECT_EQ(SK_GetU32(r, 252), SK_GetU32(r, 260)); // no substitutes for plain members
-    EXPECT_EQ(SK_GetU32(r, 272), 2u);
-
-    const std::uint8_t *member1 = r + 512 + 64;
-    EXPECT_EQ(SK_GetU64(member1, 0), 0xD1u);
-    EXPECT_EQ(SK_GetU16(member1, 8), 2u);
-    EXPECT_EQ(SK_GetU16(member1, 10), 1u);
-    EXPECT_EQ(SK_GetU64(member1, 16), 8u);
-    EXPECT_EQ(SK_GetU64(member1, 24), 40000u);
-    EXPECT_EQ(SK_GetU32(member1, 48), code::MemberFailed);
-    const std::uint8_t *spare = r + 512 + 128;
-    EXPECT_EQ(SK_GetU64(spare, 0), 0xD2u);
-    EXPECT_EQ(SK_GetU16(spare, 8), 3u);
+    expectText(image, kArray + 176, 32, "Thirty-two bytes of a long name!");
+    expectFields(image, kArray + 512 + 64,
+                 "0q=0xD1 8w=2 10w=1 16q=8 24q=40000 48=0x10"); // member 1
+    expectFields(image, kArray + 512 + 128, "0q=0xD2 8w=3");    // the spare
 }
 
 TEST(Image, previousFormatHasShortDiskRecordsWithoutTexts)
 {
-    const auto image = writeImage(smallModel(), ImageOptions{true, 0});
-    const std::size_t disk0 = 768 - 128 + 136; // core record is 128 bytes too
-    EXPECT_EQ(SK_GetU32(image.data(), 512 + 128), 9662u);
-    EXPECT_EQ(SK_GetU32(image.data(), disk0), 9660u);
-    EXPECT_EQ(SK_GetU32(image.data(), disk0 + 128), 9660u);
-    EXPECT_EQ(SK_GetU64(image.data(), disk0 + 4), 0xD0u);
+    // The core record is 128 bytes too: the controller at 640, the disks from 776.
+    expectFields(writeImage(smallModel(), ImageOptions{true, 0}), 0,
+                 "640=9662 776=9660 904=9660 780q=0xD0");
 }
 
 TEST(Image, arrayInTransformIsTwoRecordsWithOneDeviceNumber)
@@ -218,12 +174,8 @@ TEST(Image, arrayInTransformIsTwoRecordsWithOneDeviceNumber)
     target.capacity = 120000;
     m.arrays[0].target = target;
     m.arrays[0].spares.clear();
-    const auto image = writeImage(m, {});
-    const std::size_t second = kArray + 512 + 2 * 64;
-    EXPECT_EQ(SK_GetU32(image.data(), second), 9661u);
-    EXPECT_EQ(SK_GetU16(image.data(), kArray + 52), SK_GetU16(image.data(), second + 52));
-    EXPECT_EQ(SK_GetU32(image.data(), second + 108), 3u);
-    EXPECT_EQ(SK_GetU64(image.data(), second + 80), 120000u);
+    // The second record follows the first's fixed part and two members, on route 5 too.
+    expectFields(writeImage(m, {}), kArray + 512 + 2 * 64, "0=9661 52w=5 108=3 80q=120000");
 }
 
 TEST(Image, tieredArrayCarriesItsMemberArraysAsSubstitutes)
@@ -237,10 +189,8 @@ TEST(Image, tieredArrayCarriesItsMemberArraysAsSubstitutes)
     tier.layout.secondCount = 1;
     tier.layout.members = {Member{0xA1, 0, 1, 0, 1, 0}, Member{0xA2, 0, 1, 0, 1, 0}};
     m.arrays.push_back(tier);
-    const auto image = writeImage(m, {});
-    const std::size_t at = image.size() - (512 + 2 * 64);
-    EXPECT_EQ(SK_GetU64(image.data(), at + 252), 0xA1u);
-    EXPECT_EQ(SK_GetU64(image.data(), at + 260), 0xA2u);
+    const Image image = writeImage(m, {});
+    expectFields(image, image.size() - (512 + 2 * 64), "252q=0xA1 260q=0xA2");
 }
 
 TEST(Image, neverPassesSixtyFourKilobytes)

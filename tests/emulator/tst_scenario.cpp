@@ -2,53 +2,15 @@
 // the state file is kept.
 
 #include "emulator/emulator.h"
+#include "temp_folder.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <random>
-#include <sstream>
 
 using namespace sk_emu;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string readAll(const fs::path &path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-class TempFolder
-{
-public:
-    TempFolder()
-    {
-        // A folder of our own: creating a name that is already taken fails, so draw again.
-        std::random_device random;
-        std::error_code ec;
-        for (int attempt = 0; attempt < 100; ++attempt) {
-            m_path = fs::temp_directory_path(ec) / ("skemu-test-" + std::to_string(random()));
-            if (fs::create_directory(m_path, ec))
-                break;
-        }
-    }
-    ~TempFolder()
-    {
-        std::error_code ec;
-        fs::remove_all(m_path, ec);
-    }
-    fs::path file(const char *name) const { return m_path / name; }
-
-private:
-    fs::path m_path;
-};
 
 TEST(Scenario, defaultScenarioReadsBackToTheSameText)
 {
@@ -62,23 +24,6 @@ TEST(Scenario, defaultScenarioReadsBackToTheSameText)
     EXPECT_TRUE(model.disks[5].globalSpare);
     ASSERT_TRUE(model.disks[6].nvme.has_value());
     EXPECT_EQ(model.disks[6].nvme->powerOnHours, 1873u);
-}
-
-TEST(Scenario, defaultScenarioLooksLikeTheWorkstationItDescribes)
-{
-    const Model m = defaultScenario();
-    EXPECT_EQ(m.controllers.size(), 1u);
-    const auto nvme =
-        std::count_if(m.disks.begin(), m.disks.end(), [](const Disk &d) { return d.isNvme(); });
-    const auto ssd = std::count_if(m.disks.begin(), m.disks.end(),
-                                   [](const Disk &d) { return (d.portType & code::PortSsd) != 0; });
-    EXPECT_EQ(nvme, 1);
-    EXPECT_EQ(ssd, 2);
-    EXPECT_EQ(m.arrays[0].layout.type, code::TypeMirrorStripe);
-    EXPECT_EQ(m.arrays[1].layout.type, code::TypeParity);
-    EXPECT_EQ(m.volumes[0].letter, 'C');
-    EXPECT_EQ(m.volumes[0].arrays.front(), m.arrays[0].id);
-    EXPECT_GE(m.events.front().number, 3u);
 }
 
 TEST(Scenario, levelWordsGiveTheirTypesCountsAndCapacities)
@@ -175,49 +120,51 @@ TEST(Scenario, structuralProblemsNameTheOffendingRecord)
     EXPECT_FALSE(parseScenario("", back, error));
 }
 
-TEST(StateFile, isCreatedFromTheDefaultAndSavedOnEveryChange)
+class StateFile : public ::testing::Test
 {
+protected:
+    void SetUp() override { ASSERT_TRUE(folder.created()); }
+    std::shared_ptr<Host> open()
+    {
+        auto host = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
+        EXPECT_TRUE(host) << error;
+        return host;
+    }
+
     TempFolder folder;
-    const fs::path path = folder.file("state.json");
+    const std::string path = folder.file("state.json");
     std::string error;
-    auto host = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
-    ASSERT_TRUE(host) << error;
+};
+
+TEST_F(StateFile, isCreatedFromTheDefaultAndSavedOnEveryChange)
+{
+    auto host = open();
+    ASSERT_TRUE(host);
     EXPECT_TRUE(fs::exists(path));
 
     host->injectEvent(1037, {});
     Model saved;
-    ASSERT_TRUE(readStateFile(path.string(), saved, error)) << error;
+    ASSERT_TRUE(readStateFile(path, saved, error)) << error;
     EXPECT_EQ(saved.events.back().message, 1037u);
-    EXPECT_FALSE(fs::exists(path.string() + ".tmp"));
+    EXPECT_FALSE(fs::exists(path + ".tmp"));
 }
 
-TEST(StateFile, malformedFileIsReportedWithItsNameAndLeftAlone)
+TEST_F(StateFile, malformedFileIsReportedWithItsNameAndLeftAlone)
 {
-    TempFolder folder;
-    const fs::path path = folder.file("broken.json");
-    {
-        std::ofstream out(path);
-        out << "{\"format\": \"StrataKeep emulated host\", \"version\": 1, \"disks\": 7}";
-    }
-    const std::string before = readAll(path);
-    std::string error;
-    EXPECT_FALSE(Host::openStateFile(path.string(), error));
-    EXPECT_EQ(error, path.string() + ": disks: expected a list");
-    EXPECT_EQ(readAll(path), before);
+    const std::string broken =
+        "{\"format\": \"StrataKeep emulated host\", \"version\": 1, \"disks\": 7}";
+    writeAll(path, broken);
+    EXPECT_FALSE(Host::openStateFile(path, error));
+    EXPECT_EQ(error, path + ": disks: expected a list");
+    EXPECT_EQ(readAll(path), broken);
 }
 
-TEST(StateFile, changesByAnotherProcessAreTakenOnTheNextRequest)
+TEST_F(StateFile, changesByAnotherProcessAreTakenOnTheNextRequest)
 {
-    TempFolder folder;
-    const fs::path path = folder.file("shared.json");
-    std::string error;
-    auto console = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
-    ASSERT_TRUE(console) << error;
-    const std::uint64_t disk = console->model().disks[2].id;
-
     // A second host on the same file stands for skemu in another process.
-    auto tool = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
-    ASSERT_TRUE(tool) << error;
+    auto console = open(), tool = open();
+    ASSERT_TRUE(console && tool);
+    const std::uint64_t disk = console->model().disks[2].id;
     ASSERT_TRUE(tool->failDisk(disk));
 
     const Model seen = console->model();
@@ -228,14 +175,10 @@ TEST(StateFile, changesByAnotherProcessAreTakenOnTheNextRequest)
 // The console and skemu take turns at one file; whatever either did must survive the
 // other's next write. Fault counters rewrite the file at the same size, the case a
 // time stamp alone misses.
-TEST(StateFile, interleavedChangesOfTwoHostsAreAllKept)
+TEST_F(StateFile, interleavedChangesOfTwoHostsAreAllKept)
 {
-    TempFolder folder;
-    const std::string path = folder.file("shared.json").string();
-    std::string error;
-    auto a = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
-    auto b = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
-    ASSERT_TRUE(a && b) << error;
+    auto a = open(), b = open();
+    ASSERT_TRUE(a && b);
     const std::uint32_t first = a->model().nextEventNumber;
     constexpr std::uint32_t kTurns = 200;
     for (std::uint32_t i = 0; i < kTurns; ++i) {
@@ -255,14 +198,10 @@ TEST(StateFile, interleavedChangesOfTwoHostsAreAllKept)
     EXPECT_EQ(m.faults.failedTransfers, (kTurns - 2) % 7);
 }
 
-TEST(StateFile, everyRequestSeesTheOtherProcessFirst)
+TEST_F(StateFile, everyRequestSeesTheOtherProcessFirst)
 {
-    TempFolder folder;
-    const std::string path = folder.file("shared.json").string();
-    std::string error;
-    auto console = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
-    auto tool = Host::openStateFile(path, error, std::make_shared<SK_EmuManualClock>());
-    ASSERT_TRUE(console && tool) << error;
+    auto console = open(), tool = open();
+    ASSERT_TRUE(console && tool);
     const std::uint64_t session = console->open("\\\\.\\SKConfig0", 0, 0);
     ASSERT_NE(session, 0u);
     std::uint8_t block[512] = {};
@@ -275,22 +214,17 @@ TEST(StateFile, everyRequestSeesTheOtherProcessFirst)
     EXPECT_EQ(tool->model().faults.failedTransfers, 0u);
 }
 
-TEST(StateFile, aChangeThatChangesNothingLeavesTheFileAsItIs)
+TEST_F(StateFile, aChangeThatChangesNothingLeavesTheFileAsItIs)
 {
-    TempFolder folder;
-    const fs::path path = folder.file("hand-written.json");
-    {
-        std::ofstream out(path, std::ios::binary);
-        out << nlohmann::json::parse(writeScenario(defaultScenario())).dump(); // not our layout
-    }
-    const std::string before = readAll(path);
-    std::string error;
-    auto host = Host::openStateFile(path.string(), error, std::make_shared<SK_EmuManualClock>());
-    ASSERT_TRUE(host) << error;
+    // Compact JSON: not the layout the host writes, so any rewrite would show.
+    const std::string handWritten = nlohmann::json::parse(writeScenario(defaultScenario())).dump();
+    writeAll(path, handWritten);
+    auto host = open();
+    ASSERT_TRUE(host);
     EXPECT_FALSE(host->failDisk(0x1234));
     EXPECT_FALSE(host->setSmartError(0x1234, true));
     host->model();
-    EXPECT_EQ(readAll(path), before);
+    EXPECT_EQ(readAll(path), handWritten);
 }
 
 } // namespace

@@ -100,8 +100,6 @@ const Row kRows[] = {
     {"systemDrive", none,
      [](SK_SystemView &v) { return std::string(1, v.systemDriveLetter()) + v.systemDirectory(); },
      "CC:\\Windows\\system32"},
-    {"systemDriveElsewhere", [](Model &m) { m.host.systemDrive = 'D'; },
-     [](SK_SystemView &v) { return std::string(1, v.systemDriveLetter()); }, "D"},
     {"arraysNumberedByRoute", none,
      [](SK_SystemView &v) { return numbersOf(v, 'C') + " " + numbersOf(v, 'D'); }, "0 1"},
     {"hiddenArrayHasNoNumber",
@@ -122,9 +120,6 @@ const Row kRows[] = {
     {"ejectOfHiddenArray",
      [](Model &m) { arrayNamed(m, "Data").attributes |= code::AttributeHidden; },
      [](SK_SystemView &v) { return ejectOf(v, 'D'); }, "no device number (2)"},
-    {"elevated", none, [](SK_SystemView &v) { return std::to_string(v.isElevated()); }, "1"},
-    {"notElevated", [](Model &m) { m.host.elevated = false; },
-     [](SK_SystemView &v) { return std::to_string(v.isElevated()); }, "0"},
     {"driversLoaded", none, driversOf, "skraid.sys skcfg.sys skbottom.sys "},
     {"configurationDriverUnloaded",
      [](Model &m) {
