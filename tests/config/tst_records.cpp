@@ -147,8 +147,7 @@ TEST(LogicalDevice, membersAreReadRowByRowAndTheQueriesAnswer)
     a.attributes = 0x10200;
     a.displayName = std::string(32, 'D');
     const Bytes record = arrayRecord(a);
-    const SK_C_LogicalDevice array(record.data(), kPrefix, 1,
-                                   static_cast<std::uint32_t>(record.size()));
+    const SK_C_LogicalDevice array = build(record);
     ASSERT_EQ(array.SK_ElementSlots(), 4u);
     for (std::uint32_t i = 0; i < 4; ++i)
         EXPECT_EQ(array.Elements[i]->DeviceRoute, i + 3);
