@@ -117,6 +117,18 @@ private:
     std::vector<char> m_bytes;
 };
 
+// A create of the given shape over `drives`; everything else as the console leaves it
+// when the user asks for nothing more.
+inline std::uint32_t createArray(const SK_CoreEntry *core, std::uint32_t type, std::uint32_t first,
+                                 std::uint32_t second, const NameList &drives,
+                                 std::uint64_t mib = 100, std::uint64_t id = 0,
+                                 std::uint32_t cacheTag = 0)
+{
+    return SK_ApiCreateLogicalDevice(core, type, drives.count(), 0, 0, cacheTag, 0, mib, first,
+                                     second, drives.data(), nullptr, "", 0, 0, 0, 0, id, 0,
+                                     nullptr);
+}
+
 // Statuses compared with their names, so a failure says what came back.
 inline ::testing::AssertionResult statusEquals(const char *, const char *callText,
                                                std::uint32_t expected, std::uint32_t got)

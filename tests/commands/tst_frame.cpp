@@ -33,7 +33,22 @@ const std::string kOtherArray = "//./Core2/Route0/Device1", kOtherDisk = "//./Co
 const std::string kNoArray = arrayName(9), kNoDisk = "//./Core1/Route1/Device40";
 const std::string kMirror = arrayName(kMirrorRoute), kParity = arrayName(kParityRoute);
 const NameList kOtherArrays{kMirror, kOtherArray}, kOtherDisks{diskName(5), kOtherDisk};
+const NameList kDisk5{diskName(5)}, kWithNoArray{kMirror, kNoArray};
 std::uint8_t g_scratch[512];
+
+// The calls the tables make, everything but the names fixed.
+const auto check = [](E e, const std::string &array) {
+    return SK_ApiCheckLogicalDevice(e, array.c_str(), 0, 1, 1);
+};
+const auto deleteArrays = [](E e, const NameList &arrays) {
+    return SK_ApiDeleteLogicalDevice(e, arrays.count(), arrays.data(), 0, 0, 1);
+};
+const auto diskSetting = [](E e, const NameList &disks) {
+    return SK_ApiManagePhysicalDevice(e, disks.count(), disks.data(), 0, 16384, 1);
+};
+const auto initialize = [](E e, const NameList &disks) {
+    return SK_ApiInitializePhysicalDevice(e, disks.count(), disks.data(), 0, 1, 1);
+};
 
 class ForeignNames : public CommandTest, public ::testing::WithParamInterface<StatusCase>
 {
@@ -48,11 +63,8 @@ TEST_P(ForeignNames, areRefusedBeforeAnyDeviceIsOpened)
 INSTANTIATE_TEST_SUITE_P(
     Frame, ForeignNames,
     ::testing::Values(
-        StatusCase{"Check", 62,
-                   [](E e) { return SK_ApiCheckLogicalDevice(e, kOtherArray.c_str(), 0, 1, 1); }},
-        StatusCase{
-            "Delete", 62,
-            [](E e) { return SK_ApiDeleteLogicalDevice(e, 2, kOtherArrays.data(), 0, 0, 1); }},
+        StatusCase{"Check", 62, [](E e) { return check(e, kOtherArray); }},
+        StatusCase{"Delete", 62, [](E e) { return deleteArrays(e, kOtherArrays); }},
         StatusCase{"Copy", 62,
                    [](E e) {
                        return SK_ApiCopyLogicalDevice(e, kMirror.c_str(), kOtherArray.c_str(), 0, 1,
@@ -63,27 +75,15 @@ INSTANTIATE_TEST_SUITE_P(
                        return SK_ApiManageSpare(e, kOtherArray.c_str(), 1, kOtherDisks.data(), 1, 0,
                                                 1);
                    }},
-        StatusCase{
-            "DiskSetting", 63,
-            [](E e) { return SK_ApiManagePhysicalDevice(e, 2, kOtherDisks.data(), 0, 16384, 1); }},
-        StatusCase{"DiskWithoutACore", 63,
-                   [](E e) {
-                       const NameList d{"Route1/Device6"};
-                       return SK_ApiManagePhysicalDevice(e, 1, d.data(), 0, 16384, 1);
-                   }},
-        StatusCase{
-            "Initialize", 63,
-            [](E e) { return SK_ApiInitializePhysicalDevice(e, 2, kOtherDisks.data(), 0, 1, 1); }},
+        StatusCase{"DiskSetting", 63, [](E e) { return diskSetting(e, kOtherDisks); }},
+        StatusCase{"DiskWithoutACore", 63, [](E e) { return diskSetting(e, {"Route1/Device6"}); }},
+        StatusCase{"Initialize", 63, [](E e) { return initialize(e, kOtherDisks); }},
         StatusCase{"MetaData", 63,
                    [](E e) {
                        return SK_ApiReadDiskMetaData(e, kOtherDisk.c_str(), g_scratch, 0, 512, 1);
                    }},
         StatusCase{"CreateOverTwoCores", 63,
-                   [](E e) {
-                       return SK_ApiCreateLogicalDevice(e, 7158, 2, 0, 0, 0, 0, 100, 1, 2,
-                                                        kOtherDisks.data(), nullptr, "", 0, 0, 0, 0,
-                                                        0, 0, nullptr);
-                   }}),
+                   [](E e) { return createArray(e, 7158, 1, 2, kOtherDisks); }}),
     rowName);
 
 class WithoutDevice : public CommandTest, public ::testing::WithParamInterface<StatusCase>
@@ -100,14 +100,8 @@ TEST_P(WithoutDevice, reportsAnInvalidCoreHandle)
 INSTANTIATE_TEST_SUITE_P(
     Frame, WithoutDevice,
     ::testing::Values(
-        StatusCase{"Create", 8,
-                   [](E e) {
-                       const NameList d{diskName(5)};
-                       return SK_ApiCreateLogicalDevice(e, 7159, 1, 0, 0, 0, 0, 100, 1, 1, d.data(),
-                                                        nullptr, "", 0, 0, 0, 0, 0, 0, nullptr);
-                   }},
-        StatusCase{"Check", 8,
-                   [](E e) { return SK_ApiCheckLogicalDevice(e, kMirror.c_str(), 0, 1, 1); }},
+        StatusCase{"Create", 8, [](E e) { return createArray(e, 7159, 1, 1, kDisk5); }},
+        StatusCase{"Check", 8, [](E e) { return check(e, kMirror); }},
         StatusCase{"Delete", 8,
                    [](E e) { return SK_ApiDeleteLogicalDevice(e, 0, nullptr, 1, 0, 1); }},
         StatusCase{"DiskSettingForAll", 8,
@@ -136,43 +130,24 @@ TEST_P(UnknownNames, areNotSent)
 INSTANTIATE_TEST_SUITE_P(
     Frame, UnknownNames,
     ::testing::Values(
-        StatusCase{"Check", 10,
-                   [](E e) { return SK_ApiCheckLogicalDevice(e, kNoArray.c_str(), 0, 1, 1); }, 7},
+        StatusCase{"Check", 10, [](E e) { return check(e, kNoArray); }, 7},
         StatusCase{"CheckById", 10,
                    [](E e) { return SK_ApiCheckLogicalDeviceById(e, 0x999, 0, 1, 1); }, 7},
-        StatusCase{"Delete", 10,
-                   [](E e) {
-                       const NameList a{kMirror, kNoArray};
-                       return SK_ApiDeleteLogicalDevice(e, 2, a.data(), 0, 0, 1);
-                   },
-                   3},
+        StatusCase{"Delete", 10, [](E e) { return deleteArrays(e, kWithNoArray); }, 3},
         StatusCase{"Transform", 10,
                    [](E e) {
-                       const NameList d{diskName(5)};
                        return SK_ApiTransformLogicalDevice(e, kNoArray.c_str(), 7159, 1, 0, 0, 1, 1,
-                                                           1, d.data(), nullptr, 0, 0, 0, 0);
+                                                           1, kDisk5.data(), nullptr, 0, 0, 0, 0);
                    },
                    8},
         StatusCase{"CreateOfAnUnknownDisk", 11,
                    [](E e) {
-                       const NameList d{diskName(5), kNoDisk};
-                       return SK_ApiCreateLogicalDevice(e, 7158, 2, 0, 0, 0, 0, 100, 1, 2, d.data(),
-                                                        nullptr, "", 0, 0, 0, 0, 0x55, 0, nullptr);
+                       return createArray(e, 7158, 1, 2, {diskName(5), kNoDisk}, 100, 0x55);
                    },
                    2},
         StatusCase{"TierOfAnUnknownArray", 10,
-                   [](E e) {
-                       const NameList a{kMirror, kNoArray};
-                       return SK_ApiCreateLogicalDevice(e, 7165, 2, 0, 0, 0, 0, 100, 1, 2, a.data(),
-                                                        nullptr, "", 0, 0, 0, 0, 0x55, 0, nullptr);
-                   },
-                   2},
-        StatusCase{"Initialize", 11,
-                   [](E e) {
-                       const NameList d{kNoDisk};
-                       return SK_ApiInitializePhysicalDevice(e, 1, d.data(), 0, 1, 1);
-                   },
-                   4}),
+                   [](E e) { return createArray(e, 7165, 1, 2, kWithNoArray, 100, 0x55); }, 2},
+        StatusCase{"Initialize", 11, [](E e) { return initialize(e, {kNoDisk}); }, 4}),
     rowName);
 
 TEST_F(CommandTest, diskSettingsStopAtTheFirstUnknownDiskAfterTheKnownOnesWent)

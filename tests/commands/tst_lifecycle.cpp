@@ -114,9 +114,7 @@ TEST_F(CommandTest, aCacheTagOf32IsRefusedWithItsMessage)
 {
     const NameList drives{diskName(5), diskName(6)};
     ::testing::internal::CaptureStdout();
-    const std::uint32_t create =
-        SK_ApiCreateLogicalDevice(&core, 7158, 2, 0, 0, 32, 0, 100, 1, 2, drives.data(), nullptr,
-                                  "", 0, 0, 0, 0, 0, 0, nullptr);
+    const std::uint32_t create = createArray(&core, 7158, 1, 2, drives, 100, 0, 32);
     const std::uint32_t info = SK_ApiGetCreateInfo(&core, 7158, 2, 0, 0, 32, 0, 0, 1, 2,
                                                    drives.data(), nullptr, 0, 0, 0, 0, 1, nullptr);
     EXPECT_EQ(::testing::internal::GetCapturedStdout(),
@@ -131,8 +129,7 @@ TEST_F(CommandTest, createRefusesShapesTypesAndSizesItCannotSend)
     const NameList drives{diskName(5), diskName(6)};
     auto create = [&](std::uint32_t type, std::uint32_t first, std::uint32_t second,
                       std::uint64_t capacity) {
-        return SK_ApiCreateLogicalDevice(&core, type, 2, 0, 0, 0, 0, capacity, first, second,
-                                         drives.data(), nullptr, "", 0, 0, 0, 0, 0, 0, nullptr);
+        return createArray(&core, type, first, second, drives, capacity);
     };
     EXPECT_STATUS(7, create(7160, 1, 2, 100)) << "no such type";
     EXPECT_STATUS(7, create(7161, 1, 2, 100)) << "legacy arrays are never made";

@@ -47,12 +47,6 @@ TEST_F(CommandTest, aCheckWithTheOptionReturnsWhenItEndsAndLetsOthersTakeTheLock
     EXPECT_EQ(sleepsWithLockFree, static_cast<int>(recorder->sleeps.size()));
 }
 
-TEST_F(CommandTest, secureEraseStartsItsTask)
-{
-    EXPECT_STATUS(1, SK_ApiSecureEraseLogicalDevice(&core, kParity.c_str(), 1, 1));
-    EXPECT_EQ(arrayIn(*look(), kParityId)->TaskType, SK_TASK_SECURE_ERASE);
-}
-
 TEST_F(CommandTest, tasksArePausedResumedAndRemoved)
 {
     ASSERT_EQ(SK_ApiCheckLogicalDevice(&core, kParity.c_str(), 0, 1, 1), 1u);
