@@ -1,13 +1,9 @@
 // SK_RaidApi's queries and commands against a fresh emulated host. Requests are
 // decoded here from the wire layouts, independently of the command layer's encoders.
 
-#include "emulator/emulator.h"
-#include "service/service.h"
-#include "support/recording_endpoint.h"
+#include "service_lab.h"
 
 #include <QtTest>
-
-#include <memory>
 
 namespace {
 
@@ -96,37 +92,6 @@ Model variedScenario()
     return m;
 }
 
-class Fixture
-{
-public:
-    explicit Fixture(Model model = defaultScenario())
-        : clock(std::make_shared<SK_EmuManualClock>(1000000)),
-          host(std::make_shared<Host>(std::move(model), clock)),
-          recorder(std::make_shared<RecordingEndpoint>(host))
-    {
-        SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(recorder));
-        api = std::make_unique<SK_RaidApi>();
-    }
-    ~Fixture() { SK_InstallPlatform(nullptr); }
-    SK_RaidApi *operator->() const { return api.get(); }
-
-    // Write commands other than the configuration traffic.
-    std::vector<RecordedRequest> sent() const
-    {
-        std::vector<RecordedRequest> out;
-        for (const RecordedRequest &r : recorder->commands()) {
-            if (r.u32(0) != SK_COMMAND_READ)
-                out.push_back(r);
-        }
-        return out;
-    }
-
-    std::shared_ptr<SK_EmuManualClock> clock;
-    std::shared_ptr<Host> host;
-    std::shared_ptr<RecordingEndpoint> recorder;
-    std::unique_ptr<SK_RaidApi> api;
-};
-
 const Array *arrayOf(const Model &m, int route)
 {
     return m.findArrayByRoute(static_cast<std::uint32_t>(route));
@@ -153,7 +118,7 @@ private slots:
 
 void tst_facade::lookupsFollowTheImage()
 {
-    Fixture f;
+    Lab f;
     SK_RaidApi &api = *f.api;
     QCOMPARE(api.GetArrayCount(), 2);
     QCOMPARE(api.GetDiskIds(), (QList<int>{1, 2, 3, 4, 5, 6, 7}));
@@ -231,7 +196,7 @@ void tst_facade::queries()
     QFETCH(int, a);
     QFETCH(int, b);
     QFETCH(int, expected);
-    Fixture f(variedScenario());
+    Lab f(variedScenario());
     const SK_RaidApi &api = *f.api;
     const std::map<QString, std::function<qint64()>> calls = {
         {"IsNvmeDisk", [&] { return api.IsNvmeDisk(a); }},
@@ -269,7 +234,7 @@ void tst_facade::priorityScale()
     // The ends of the scale are their own; between them each level is ten percent.
     const int scale[][2] = {{1, 99}, {2, 90}, {5, 60}, {10, 1}};
     for (const auto &[level, percent] : scale) {
-        Fixture f(variedScenario());
+        Lab f(variedScenario());
         QVERIFY(f.api->SetTaskPriority(kGrowing, level));
         const auto sent = f.sent();
         QCOMPARE(sent.size(), std::size_t(1));
@@ -289,54 +254,53 @@ void tst_facade::commandsReachTheDrivers()
     struct Case
     {
         const char *what;
-        std::function<bool(Fixture &)> call;
+        std::function<bool(Lab &)> call;
         std::uint32_t code;
         std::size_t offset;
         std::uint32_t word;
     };
     const Case cases[] = {
-        {"global spare", [](Fixture &f) { return f->AssignGlobalSpare(kNvme); }, 7, 32, 31908},
+        {"global spare", [](Lab &f) { return f->AssignGlobalSpare(kNvme); }, 7, 32, 31908},
         {"dedicated spare",
-         [](Fixture &f) {
+         [](Lab &f) {
              f.host->modify([](Model &m) { return !(m.disks[5].globalSpare = false); });
              f->RefreshConfig();
              return f->AssignDedicatedSpare(kData, kSpare);
          },
          7, 32, 31906},
-        {"drop the global spare", [](Fixture &f) { return f->RemoveGlobalSpare(kSpare); }, 7, 32,
+        {"drop the global spare", [](Lab &f) { return f->RemoveGlobalSpare(kSpare); }, 7, 32,
          31909},
-        {"remove all spares", [](Fixture &f) { return f->RemoveArraySpares(kData); }, 7, 32, 31917},
-        {"hide", [](Fixture &f) { return f->HideArray(kData); }, 7, 56, 0x2000200},
-        {"read cache only", [](Fixture &f) { return f->SetArrayCache(kData, "R"); }, 7, 56,
-         0x80000000},
-        {"check, not held", [](Fixture &f) { return f->CheckArray(kData); }, 7, 56, 0x10000000},
+        {"remove all spares", [](Lab &f) { return f->RemoveArraySpares(kData); }, 7, 32, 31917},
+        {"hide", [](Lab &f) { return f->HideArray(kData); }, 7, 56, 0x2000200},
+        {"read cache only", [](Lab &f) { return f->SetArrayCache(kData, "R"); }, 7, 56, 0x80000000},
+        {"check, not held", [](Lab &f) { return f->CheckArray(kData); }, 7, 56, 0x10000000},
         {"stop a check",
-         [](Fixture &f) { return f->CheckArray(kData) && f->ConsistencyCheck(kData, true); }, 7, 32,
+         [](Lab &f) { return f->CheckArray(kData) && f->ConsistencyCheck(kData, true); }, 7, 32,
          31911},
-        {"background scan on", [](Fixture &f) { return f->SetBackgroundScan(kData, true); }, 7, 56,
+        {"background scan on", [](Lab &f) { return f->SetBackgroundScan(kData, true); }, 7, 56,
          0x4000400},
-        {"rename", [](Fixture &f) { return f->RenameArray(kData, "Archive"); }, 7, 32, 31916},
-        {"delete", [](Fixture &f) { return f->DeleteArray(kData); }, 3, 36, 1},
+        {"rename", [](Lab &f) { return f->RenameArray(kData, "Archive"); }, 7, 32, 31916},
+        {"delete", [](Lab &f) { return f->DeleteArray(kData); }, 3, 36, 1},
         {"secure erase, after a hide",
-         [](Fixture &f) {
+         [](Lab &f) {
              return f->SecureEraseArray(kData) && f.sent().front().u32(56) == 0x2000200u;
          },
          7, 32, 31918},
-        {"identify a disk", [](Fixture &f) { return f->BlinkDisk(kHdd1, true); }, 29, 32, 16389},
-        {"prepare a disk for removal", [](Fixture &f) { return f->PrepareDiskRemoval(kHdd1); }, 29,
-         32, 16417},
+        {"identify a disk", [](Lab &f) { return f->BlinkDisk(kHdd1, true); }, 29, 32, 16389},
+        {"prepare a disk for removal", [](Lab &f) { return f->PrepareDiskRemoval(kHdd1); }, 29, 32,
+         16417},
         {"initialise keeping metadata",
-         [](Fixture &f) {
+         [](Lab &f) {
              SK_InitDisks init;
              init.disks[0] = kNvme;
              init.diskCount = 1;
              return f->InitializeDisks(init);
          },
          4, 40, 0},
-        {"rescan", [](Fixture &f) { return f->Rescan(); }, 16, 0, 16},
+        {"rescan", [](Lab &f) { return f->Rescan(); }, 16, 0, 16},
     };
     for (const Case &c : cases) {
-        Fixture f;
+        Lab f;
         QVERIFY2(c.call(f), c.what);
         const auto sent = f.sent();
         QVERIFY2(!sent.empty(), c.what);
@@ -347,18 +311,18 @@ void tst_facade::commandsReachTheDrivers()
 
 void tst_facade::refusalsSendNothing()
 {
-    const std::pair<const char *, std::function<bool(Fixture &)>> cases[] = {
-        {"a global spare that is a member", [](Fixture &f) { return f->AssignGlobalSpare(kHdd1); }},
+    const std::pair<const char *, std::function<bool(Lab &)>> cases[] = {
+        {"a global spare that is a member", [](Lab &f) { return f->AssignGlobalSpare(kHdd1); }},
         {"a global spare twice",
-         [](Fixture &f) {
+         [](Lab &f) {
              f.host->modify([](Model &m) { return (m.disks[6].globalSpare = true); });
              f->RefreshConfig();
              return f->AssignGlobalSpare(kNvme);
          }},
         {"a dedicated spare for a RAID 0",
-         [](Fixture &f) { return f->AssignDedicatedSpare(kScratch, kNvme); }},
+         [](Lab &f) { return f->AssignDedicatedSpare(kScratch, kNvme); }},
         {"a dedicated spare too small",
-         [](Fixture &f) {
+         [](Lab &f) {
              f.host->modify([](Model &m) {
                  m.arrays[1].spares.clear();
                  m.disks[6].capacity = 1000000;
@@ -367,28 +331,27 @@ void tst_facade::refusalsSendNothing()
              f->RefreshConfig();
              return f->AssignDedicatedSpare(kData, kNvme);
          }},
-        {"deleting the system array", [](Fixture &f) { return f->DeleteArray(kSystem); }},
-        {"deleting a tier part", [](Fixture &f) { return f->DeleteArray(kSlow); }},
-        {"hiding a hidden array", [](Fixture &f) { return f->HideArray(kScratch); }},
-        {"un-hiding a visible array", [](Fixture &f) { return f->UnhideArray(kData); }},
-        {"hiding an array with a task", [](Fixture &f) { return f->HideArray(kGrowing); }},
-        {"removing a transform", [](Fixture &f) { return f->TaskControl(kGrowing, "remove"); }},
-        {"resuming a running task", [](Fixture &f) { return f->TaskControl(kGrowing, "resume"); }},
-        {"an unknown task action", [](Fixture &f) { return f->TaskControl(kGrowing, "jump"); }},
-        {"a priority without a task", [](Fixture &f) { return f->SetTaskPriority(kData, 3); }},
-        {"renaming during a task", [](Fixture &f) { return f->RenameArray(kGrowing, "x"); }},
+        {"deleting the system array", [](Lab &f) { return f->DeleteArray(kSystem); }},
+        {"deleting a tier part", [](Lab &f) { return f->DeleteArray(kSlow); }},
+        {"hiding a hidden array", [](Lab &f) { return f->HideArray(kScratch); }},
+        {"un-hiding a visible array", [](Lab &f) { return f->UnhideArray(kData); }},
+        {"hiding an array with a task", [](Lab &f) { return f->HideArray(kGrowing); }},
+        {"removing a transform", [](Lab &f) { return f->TaskControl(kGrowing, "remove"); }},
+        {"resuming a running task", [](Lab &f) { return f->TaskControl(kGrowing, "resume"); }},
+        {"an unknown task action", [](Lab &f) { return f->TaskControl(kGrowing, "jump"); }},
+        {"a priority without a task", [](Lab &f) { return f->SetTaskPriority(kData, 3); }},
+        {"renaming during a task", [](Lab &f) { return f->RenameArray(kGrowing, "x"); }},
         {"initialising a healthy member",
-         [](Fixture &f) {
+         [](Lab &f) {
              SK_InitDisks init;
              init.disks[0] = kHdd1;
              init.diskCount = 1;
              return f->InitializeDisks(init);
          }},
-        {"preparing a fixed disk for removal",
-         [](Fixture &f) { return f->PrepareDiskRemoval(kSsdA); }},
+        {"preparing a fixed disk for removal", [](Lab &f) { return f->PrepareDiskRemoval(kSsdA); }},
     };
     for (const auto &[why, call] : cases) {
-        Fixture f(variedScenario());
+        Lab f(variedScenario());
         QVERIFY2(!call(f), why);
         QVERIFY2(f.sent().empty(), why);
     }
@@ -396,7 +359,7 @@ void tst_facade::refusalsSendNothing()
 
 void tst_facade::diskSettingsGoDiskByDisk()
 {
-    Fixture f;
+    Lab f;
     SK_DiskManage cache;
     cache.disks[0] = kHdd1;
     cache.disks[1] = kNvme; // passed over: NVMe keeps its own cache
@@ -428,7 +391,7 @@ void tst_facade::diskSettingsGoDiskByDisk()
 
 void tst_facade::blinkArrayNamesEveryMemberInOneRequest()
 {
-    Fixture f;
+    Lab f;
     QVERIFY(f.api->BlinkArray(kData, true, 3));
     auto sent = f.sent();
     QCOMPARE(sent.size(), std::size_t(1));
@@ -453,7 +416,7 @@ void tst_facade::blinkArrayNamesEveryMemberInOneRequest()
 
 void tst_facade::hideAndUnhideChangeTheArray()
 {
-    Fixture f;
+    Lab f;
     QVERIFY(f.api->HideArray(kData));
     QVERIFY(arrayOf(f.host->model(), kData)->hidden());
     f.api->RefreshConfig();

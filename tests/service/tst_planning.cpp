@@ -2,14 +2,9 @@
 // Expected verdicts and texts are written out here as the console's rules give them,
 // not taken from the service's tables; sizes are worked out from the disks.
 
-#include "emulator/emulator.h"
-#include "service/service.h"
-#include "support/recording_endpoint.h"
+#include "service_lab.h"
 
 #include <QtTest>
-
-#include <cstring>
-#include <memory>
 
 namespace {
 
@@ -87,73 +82,6 @@ std::uint64_t binaryOf(std::uint64_t decimal)
 {
     return (decimal * 1000000 + 524288) / 1048576;
 }
-
-// Passes everything to the host and, once armed, has the driver refuse the next
-// planning read of one code with a status of its own finding.
-class ArmingEndpoint : public RecordingEndpoint
-{
-public:
-    explicit ArmingEndpoint(std::shared_ptr<Host> host)
-        : RecordingEndpoint(host), m_host(std::move(host))
-    {
-    }
-    SK_HostIo write(std::uint64_t session, std::uint64_t position, const std::uint8_t *data,
-                    std::uint32_t size) override
-    {
-        if (armedStatus && size >= 36 && SK_GetU32(data, 0) == SK_COMMAND_READ &&
-            SK_GetU32(data, 32) == armedCode) {
-            m_host->refuseNextRequests(1, armedStatus);
-            armedStatus = 0;
-        }
-        return RecordingEndpoint::write(session, position, data, size);
-    }
-    std::uint32_t armedCode = 0;
-    std::uint32_t armedStatus = 0;
-
-private:
-    std::shared_ptr<Host> m_host;
-};
-
-class Lab
-{
-public:
-    explicit Lab(Model model)
-        : clock(std::make_shared<SK_EmuManualClock>(1000000)),
-          host(std::make_shared<Host>(std::move(model), clock)),
-          endpoint(std::make_shared<ArmingEndpoint>(host))
-    {
-        SK_InstallPlatform(std::make_unique<SK_EmulatedPlatform>(endpoint));
-        api = std::make_unique<SK_RaidApi>();
-    }
-    ~Lab() { SK_InstallPlatform(nullptr); }
-
-    // Runs the emulated clock until the array's task has ended, reading the
-    // configuration as the main window would.
-    bool runTaskToEnd(int array)
-    {
-        for (int step = 0; step < 20000; ++step) {
-            api->RefreshConfig();
-            if (!api->ArrayHasTask(array))
-                return true;
-            clock->advance(5000);
-        }
-        return false;
-    }
-
-    const SK_ConfigArray *arrayNamed(const char *name) const
-    {
-        for (const LogicalDrive *a : api->GetArrayList()) {
-            if (std::strcmp(a->DisplayName, name) == 0)
-                return a;
-        }
-        return nullptr;
-    }
-
-    std::shared_ptr<SK_EmuManualClock> clock;
-    std::shared_ptr<Host> host;
-    std::shared_ptr<ArmingEndpoint> endpoint;
-    std::unique_ptr<SK_RaidApi> api;
-};
 
 SK_Create request(const QString &type, const QList<int> &disks, qint32 size = 500)
 {
@@ -271,64 +199,56 @@ void tst_planning::createVerdicts_data()
     QTest::addColumn<int>("verdict");
     QTest::addColumn<QString>("text");
 
-    // Queries over the first `n` disks, unless the flags say otherwise.
-    auto row = [](const char *name, const char *type, int n, int verdict, const char *text,
+    // Queries over the first `n` disks, named by type and count and what is special;
+    // "forced" rows are requests the dialog never offers.
+    auto row = [](const char *type, int n, int verdict, const char *text, const char *note = "",
                   Setup setup = Setup::SeventeenDisks, int flags = 0) {
-        QTest::newRow(name) << setup << QString::fromLatin1(type) << firstDisks(n) << flags
-                            << verdict << QString::fromLatin1(text);
+        QTest::addRow("%s of %d%s%s", type, n, *note ? ", " : "", note)
+            << setup << QString::fromLatin1(type) << firstDisks(n) << flags << verdict
+            << QString::fromLatin1(text);
     };
-    row("twelve arrays stop a RAID 5 that would fit", "RAID5", 3, -100,
-        "create would exceed maximum number of arrays allowed", Setup::TwelveArrays);
-    row("a commit of 99 MB is too small", "RAID1", 2, -99, "create size must be at least 100MB",
+    row("RAID5", 3, -100, "create would exceed maximum number of arrays allowed",
+        "beside twelve arrays", Setup::TwelveArrays);
+    row("RAID1", 2, -99, "create size must be at least 100MB", "committed at 99 MB",
         Setup::SeventeenDisks, 16);
-    row("skip initialise with zero create, before the type", "VOLUME", 1, -98,
-        "--no-sync and --zero options can't both be specified", Setup::SeventeenDisks, 1 | 2);
-    row("leave data with zero create", "RAID1", 2, -97,
+    row("VOLUME", 1, -98, "--no-sync and --zero options can't both be specified",
+        "skipping initialise with zero create, before the type", Setup::SeventeenDisks, 1 | 2);
+    row("RAID1", 2, -97,
         "--leave-existing-data and --zero options can not be specified at the same time",
-        Setup::SeventeenDisks, 2 | 4);
-    row("a RAID 5 without disks", "RAID5", 0, -96, "no disks were selected");
-    row("a RAID 60 of eight disks has no sub-member option", "RAID60", 8, -92,
-        "--sub-member option not available for selected RAID type");
-    row("skip initialise on a one disk RAID 0, before its count", "RAID0", 1, -91,
-        "--no-sync option not available for selected RAID type", Setup::SeventeenDisks, 1);
-    row("a volume of nine disks", "VOLUME", 9, -90, "VOLUME is limited to 8 drives");
-    row("two disks for RAIDable (forced)", "RAIDABLE", 2, -89, "--disk must be one for RAIDAble");
-    row("a RAID 0 of nine disks", "RAID0", 9, -87, "RAID0 requires at least 2 to 8 drives");
-    row("a RAID 1 of three disks", "RAID1", 3, -86, "RAID1 requires 2 drives");
-    row("a RAID 1N of two disks (forced)", "RAID1N", 2, -85, "RAID1n requires 3 or more drives");
-    row("a RAID 1N of nine disks (forced)", "RAID1N", 9, -84, "RAID1n is limited to 8 drives");
-    row("a RAID 10 of five disks", "RAID10", 5, -82,
-        "RAID10 must have an even number of 4 to 8 disks");
-    row("a RAID 10N of five disks (forced)", "RAID10N", 5, -79,
-        "RAID10n requires a minimum of 6 disks");
-    row("a RAID 10N of six disks (forced)", "RAID10N", 6, -78,
-        "number of disks not evenly divisible by sub count");
-    row("a RAID 5 of two disks", "RAID5", 2, -75, "RAID5 requires at least 3 drives");
-    row("a RAID 5 of nine disks", "RAID5", 9, -74, "RAID5 is limited to 8 drives");
-    row("a tier over a disk (forced)", "RTIER", 1, -72,
-        "You cannot select physical drives for RTIER");
-    row("a tier without disks is not 'no disks' (forced)", "RTIER", 0, -71,
-        "You must select 2 VDs for RTIER");
-    row("a RAID 6 of three disks (forced)", "RAID6", 3, -69, "RAID6 requires at least 4 drives");
-    row("a RAID 6 of nine disks (forced)", "RAID6", 9, -68, "RAID6 is limited to 8 drives");
-    row("a RAID 50 of five disks (forced)", "RAID50", 5, -65,
-        "must select at least 6 drives for a RAID50");
-    row("a RAID 50 of six disks (forced)", "RAID50", 6, -64,
-        "--sub-member must be 3 or greater for RAID50");
-    row("a RAID 60 of seven disks (forced)", "RAID60", 7, -61,
-        "must select at least 8 drives for a RAID60");
-    row("LEGACY is no create type (forced)", "LEGACY", 1, -59, "error, no RAID type specified");
-    row("a disk with a SMART error in the picture", "RAID1", 2, -58,
-        "a disk selected not present or valid", Setup::SmartErrorDisk);
-    row("the driver finds a SMART error itself", "RAID1", 2, -57,
-        "The create failed because one of the drives is displaying SMART errors",
-        Setup::DriverFindsSmart);
-    row("the driver has RAID 5 disabled", "RAID5", 3, -56,
-        "Support for the selected raid level is disabled", Setup::Raid5Disabled);
-    row("a cache tag size of 32 (forced)", "RAID1", 2, -55,
-        "error determining maximum possible size, check arguments", Setup::SeventeenDisks, 8);
-    row("disks without free room", "RAID1", 2, -55,
-        "error determining maximum possible size, check arguments", Setup::DisksFull);
+        "leaving data with zero create", Setup::SeventeenDisks, 2 | 4);
+    row("RAID5", 0, -96, "no disks were selected");
+    row("RAID60", 8, -92, "--sub-member option not available for selected RAID type");
+    row("RAID0", 1, -91, "--no-sync option not available for selected RAID type",
+        "skipping initialise, before the count", Setup::SeventeenDisks, 1);
+    row("VOLUME", 9, -90, "VOLUME is limited to 8 drives");
+    row("RAIDABLE", 2, -89, "--disk must be one for RAIDAble", "forced");
+    row("RAID0", 9, -87, "RAID0 requires at least 2 to 8 drives");
+    row("RAID1", 3, -86, "RAID1 requires 2 drives");
+    row("RAID1N", 2, -85, "RAID1n requires 3 or more drives", "forced");
+    row("RAID1N", 9, -84, "RAID1n is limited to 8 drives", "forced");
+    row("RAID10", 5, -82, "RAID10 must have an even number of 4 to 8 disks");
+    row("RAID10N", 5, -79, "RAID10n requires a minimum of 6 disks", "forced");
+    row("RAID10N", 6, -78, "number of disks not evenly divisible by sub count", "forced");
+    row("RAID5", 2, -75, "RAID5 requires at least 3 drives");
+    row("RAID5", 9, -74, "RAID5 is limited to 8 drives");
+    row("RTIER", 1, -72, "You cannot select physical drives for RTIER", "forced");
+    row("RTIER", 0, -71, "You must select 2 VDs for RTIER", "forced, not 'no disks'");
+    row("RAID6", 3, -69, "RAID6 requires at least 4 drives", "forced");
+    row("RAID6", 9, -68, "RAID6 is limited to 8 drives", "forced");
+    row("RAID50", 5, -65, "must select at least 6 drives for a RAID50", "forced");
+    row("RAID50", 6, -64, "--sub-member must be 3 or greater for RAID50", "forced");
+    row("RAID60", 7, -61, "must select at least 8 drives for a RAID60", "forced");
+    row("LEGACY", 1, -59, "error, no RAID type specified", "forced");
+    row("RAID1", 2, -58, "a disk selected not present or valid", "with a SMART error shown",
+        Setup::SmartErrorDisk);
+    row("RAID1", 2, -57, "The create failed because one of the drives is displaying SMART errors",
+        "with a SMART error the driver finds", Setup::DriverFindsSmart);
+    row("RAID5", 3, -56, "Support for the selected raid level is disabled", "disabled",
+        Setup::Raid5Disabled);
+    row("RAID1", 2, -55, "error determining maximum possible size, check arguments",
+        "with a cache tag size of 32 (forced)", Setup::SeventeenDisks, 8);
+    row("RAID1", 2, -55, "error determining maximum possible size, check arguments",
+        "without free room", Setup::DisksFull);
     QTest::newRow("a disk that isn't there (forced)")
         << Setup::SeventeenDisks << QStringLiteral("RAID1") << QList<int>{1, 40} << 0 << -58
         << QStringLiteral("a disk selected not present or valid");
