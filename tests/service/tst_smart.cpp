@@ -200,10 +200,6 @@ void tst_smart::hardDiskReportWarnsOfItsReallocatedSectors()
                           QStringLiteral("     Current Value: %1 (Always Passing ),")
                               .arg(attributeOf(disk, 194).current, 3, 10, QLatin1Char('0')),
                           "     Raw Value: " + lifetimeTemperature(disk)}));
-    QCOMPARE(blockOf(lines, "0x01").at(2),
-             QStringLiteral("     Current Value: 082 (Value is Normal),"));
-    QCOMPARE(blockOf(lines, "0xbe").at(3),
-             QStringLiteral("     Raw Value: %1 ").arg(attributeOf(disk, 190).raw));
 
     const QStringList transcript = linesOf(path("hdd-transcript.log"));
     QVERIFY2(transcript.size() > 4, "the transcript was written");
@@ -225,10 +221,6 @@ void tst_smart::ssdReportListsOnlyTheNamedAttributes()
     QCOMPARE(lines.value(5), QStringLiteral("SMART ATTRIBUTES:  Version 1"));
     QCOMPARE(attributeIds(lines),
              QStringList({"0x05", "0x09", "0x0c", "0xbb", "0xbe", "0xc3", "0xc7"}));
-    QCOMPARE(blockOf(lines, "0xbe"),
-             QStringList({" - Attribute ID:      0xbe (Airflow Temperature   ), ",
-                          "     Threshold Value: 000, ",
-                          "     Current Value: 067 (Always Passing ),", "     Raw Value: 33 "}));
 }
 
 void tst_smart::nvmeReportListsTheHealthPage()
