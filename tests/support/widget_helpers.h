@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QList>
 #include <QMessageBox>
 #include <QPalette>
@@ -82,8 +83,8 @@ inline void pressBoxButton(QMessageBox *box, QMessageBox::StandardButton button)
     (b ? b : box->buttons().constFirst())->click();
 }
 
-// Answers the next message box with `button` once it is up, handing its text to
-// `note`. The box is modal, so the answer has to come from the event loop it runs.
+// Answers the next message box with `button` once it is up, handing the box to `note`
+// first. The box is modal, so the answer has to come from the event loop it runs.
 template <typename Note>
 void answerNextBoxNoting(QMessageBox::StandardButton button, Note note)
 {
@@ -93,7 +94,7 @@ void answerNextBoxNoting(QMessageBox::StandardButton button, Note note)
             answerNextBoxNoting(button, note);
             return;
         }
-        note(box->text());
+        note(box);
         pressBoxButton(box, button);
     });
 }
@@ -101,16 +102,16 @@ void answerNextBoxNoting(QMessageBox::StandardButton button, Note note)
 // Answers the next message box with `button`, adding its text to `texts` if given.
 inline void answerNextBox(QMessageBox::StandardButton button, QStringList *texts = nullptr)
 {
-    answerNextBoxNoting(button, [texts](const QString &text) {
+    answerNextBoxNoting(button, [texts](QMessageBox *box) {
         if (texts)
-            *texts << text;
+            *texts << box->text();
     });
 }
 
 // Answers the next message box with `button`, keeping its text in `text`.
 inline void answerNextBox(QMessageBox::StandardButton button, QString *text)
 {
-    answerNextBoxNoting(button, [text](const QString &shown) { *text = shown; });
+    answerNextBoxNoting(button, [text](QMessageBox *box) { *text = box->text(); });
 }
 
 // Answers every message box that comes up while it lives with `button`, noting texts.
@@ -135,6 +136,21 @@ public:
 private:
     QTimer timer;
 };
+
+// A window that `make` opens again comes back at the size and with the column width
+// of the list `list` that the one before it was left with: both are kept in the settings.
+template <typename Make>
+void expectWindowStateKept(Make make, const char *list, int column, QSize size = {777, 444})
+{
+    {
+        auto first = make();
+        first->resize(size);
+        widget<QTreeWidget>(first.get(), list)->header()->resizeSection(column, 222);
+    }
+    auto again = make();
+    QCOMPARE(again->size(), size);
+    QCOMPARE(widget<QTreeWidget>(again.get(), list)->header()->sectionSize(column), 222);
+}
 
 // Makes the suite's settings files live in `folder`, so the window state the dialogs
 // save neither reads nor overwrites the user's own.
