@@ -6,14 +6,13 @@
 #include "app/app.h"
 #include "app/sk_help.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
@@ -36,12 +35,7 @@ constexpr int kRefreshMark = Qt::UserRole + 0x51;
 
 QAction *action(QWidget *window, const char *name)
 {
-    return window->findChild<QAction *>(QString::fromLatin1(name));
-}
-
-QTreeWidget *pane(QWidget *window, const char *name)
-{
-    return window->findChild<QTreeWidget *>(QString::fromLatin1(name));
+    return widget<QAction>(window, name);
 }
 
 sk_emu::Array &dataArray(sk_emu::Model &m)
@@ -71,41 +65,14 @@ struct Shown
 
 // Answers the next modal box with `button`, remembering what it showed. `whileOpen`
 // runs first, while the box is still up.
-void answerNextBox(Shown *shown, QMessageBox::StandardButton button = QMessageBox::Ok,
-                   std::function<void()> whileOpen = {})
+void answerNoting(Shown *shown, QMessageBox::StandardButton button = QMessageBox::Ok,
+                  std::function<void()> whileOpen = {})
 {
-    QTimer::singleShot(0, [shown, button, whileOpen] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box) {
-            answerNextBox(shown, button, whileOpen);
-            return;
-        }
+    answerNextBoxNoting(button, [shown, whileOpen](QMessageBox *box) {
         if (whileOpen)
             whileOpen();
-        if (shown) {
-            shown->title = box->windowTitle();
-            shown->text = box->text();
-            shown->name = box->objectName();
-            shown->icon = box->icon();
-            shown->seen = true;
-        }
-        if (QAbstractButton *b = box->button(button))
-            b->click();
-        else
-            box->done(button);
+        *shown = {box->windowTitle(), box->text(), box->objectName(), box->icon(), true};
     });
-}
-
-void pickArray(SK_MainWindow &window, int id)
-{
-    QTreeWidget *list = pane(&window, "arrayListTree");
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->data(0, Qt::UserRole).toInt() == id) {
-            window.arrayListSelectionChanged(list->topLevelItem(i), 0);
-            return;
-        }
-    }
-    QFAIL("array row not found");
 }
 
 // A refresh rebuilds the disk list, so a mark on its first row tells whether one ran.
@@ -114,12 +81,12 @@ void holdTimersAndMark(SK_MainWindow &window)
 {
     for (QTimer *timer : window.findChildren<QTimer *>())
         timer->stop();
-    pane(&window, "diskList")->topLevelItem(0)->setData(0, kRefreshMark, true);
+    widget<QTreeWidget>(&window, "diskList")->topLevelItem(0)->setData(0, kRefreshMark, true);
 }
 
 bool refreshed(SK_MainWindow &window)
 {
-    QTreeWidgetItem *first = pane(&window, "diskList")->topLevelItem(0);
+    QTreeWidgetItem *first = widget<QTreeWidget>(&window, "diskList")->topLevelItem(0);
     return !first || !first->data(0, kRefreshMark).toBool();
 }
 
@@ -194,13 +161,7 @@ void tst_Actions::initTestCase()
     Q_INIT_RESOURCE(resources);
     Q_INIT_RESOURCE(docs);
     QVERIFY(m_dir.isValid());
-    QStandardPaths::setTestModeEnabled(true);
-    qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QCoreApplication::setOrganizationName(QStringLiteral("VOR-test"));
-    // Each suite keeps its settings in its own folder: suites run side by side.
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path());
+    keepConsoleFilesIn(m_dir.path());
 }
 
 void tst_Actions::init()
@@ -216,7 +177,7 @@ void tst_Actions::cleanup()
 
 void tst_Actions::waitForArrays(SK_MainWindow &window, int count)
 {
-    QTRY_COMPARE(pane(&window, "arrayListTree")->topLevelItemCount(), count);
+    QTRY_COMPARE(widget<QTreeWidget>(&window, "arrayListTree")->topLevelItemCount(), count);
 }
 
 void tst_Actions::prepareToRemoveReportsItsResult_data()
@@ -264,16 +225,16 @@ void tst_Actions::prepareToRemoveReportsItsResult()
         });
     }
     SK_MainWindow window;
-    QTRY_VERIFY(pane(&window, "arrayListTree")->topLevelItemCount() >= 2);
-    pickArray(window, kData);
+    QTRY_VERIFY(pickArray(window, kData));
     holdTimersAndMark(window);
 
     // The menu entry is off while a task runs; the slot behind it is what is tried here.
     // The work runs on its own thread: the slot is back before any result is shown.
     bool inSlot = true, shownInSlot = false;
     Shown result;
-    answerNextBox(nullptr, QMessageBox::Yes,
-                  [&] { answerNextBox(&result, QMessageBox::Ok, [&] { shownInSlot = inSlot; }); });
+    answerNextBoxNoting(QMessageBox::Yes, [&](QMessageBox *) {
+        answerNoting(&result, QMessageBox::Ok, [&] { shownInSlot = inSlot; });
+    });
     window.prepareToRemove();
     inSlot = false;
     QTRY_VERIFY(result.seen);
@@ -315,9 +276,9 @@ void tst_Actions::consoleStaysLiveWhileRemovalRuns()
 
     SK_MainWindow window;
     waitForArrays(window, 2);
-    pickArray(window, kData);
+    QVERIFY(pickArray(window, kData));
     holdTimersAndMark(window);
-    answerNextBox(nullptr, QMessageBox::Yes);
+    answerNextBox(QMessageBox::Yes);
     action(&window, "prepareRemoveAct")->trigger();
     QTRY_COMPARE(clock->held(), 1);
 
@@ -330,7 +291,7 @@ void tst_Actions::consoleStaysLiveWhileRemovalRuns()
     QVERIFY(!QApplication::activeModalWidget());
 
     Shown result;
-    answerNextBox(&result);
+    answerNoting(&result);
     clock->open();
     QTRY_VERIFY(result.seen);
     QCOMPARE(result.title, QStringLiteral("Array Removal"));
@@ -353,15 +314,15 @@ void tst_Actions::destructiveActionsNeedRights()
         m.host.elevated = false;
         return false;
     });
-    answerNextBox(nullptr); // the one at the start
+    answerNextBox(QMessageBox::Ok); // the one at the start
     SK_MainWindow window;
     waitForArrays(window, 2);
-    pickArray(window, kData);
+    QVERIFY(pickArray(window, kData));
     const std::uint64_t generation = m_host->host->generation();
 
     // Without rights the menu entries are off; the slots behind them check again.
     Shown message;
-    answerNextBox(&message);
+    answerNoting(&message);
     QVERIFY(QMetaObject::invokeMethod(&window, slot.constData()));
     QVERIFY2(message.seen, "no message about the rights");
     QVERIFY2(message.text.contains(QStringLiteral("Please run application as Administrator.")),
@@ -377,6 +338,8 @@ void tst_Actions::noAnswerSendsNothing_data()
 
     QTest::newRow("hide") << QByteArray("hideAct")
                           << QStringLiteral("Do you want to Hide Array 2: Data?");
+    QTest::newRow("delete") << QByteArray("deleteAct")
+                            << QStringLiteral("Do you want to delete Array 2: Data?");
     QTest::newRow("secure erase") << QByteArray("secureEraseAct")
                                   << QStringLiteral("WARNING: All data will be lost and "
                                                     "unrecoverable. Continue with Secure Erase on "
@@ -403,13 +366,13 @@ void tst_Actions::noAnswerSendsNothing()
     });
     SK_MainWindow window;
     waitForArrays(window, 2);
-    pickArray(window, kData);
+    QVERIFY(pickArray(window, kData));
     QVERIFY2(action(&window, entry)->isEnabled(), entry.constData());
     const std::uint64_t generation = m_host->host->generation();
     const std::string before = sk_emu::writeScenario(m_host->host->model());
 
     Shown asked;
-    answerNextBox(&asked, QMessageBox::No);
+    answerNoting(&asked, QMessageBox::No);
     action(&window, entry)->trigger();
     QCOMPARE(asked.text, question);
     QCOMPARE(asked.title, QStringLiteral("Confirm Action"));
@@ -423,7 +386,7 @@ void tst_Actions::identifyLightsTheMembersUntilOk()
 {
     SK_MainWindow window;
     waitForArrays(window, 2);
-    pickArray(window, kData);
+    QVERIFY(pickArray(window, kData));
     auto memberLeds = [this] {
         const sk_emu::Model m = m_host->host->model();
         QList<std::uint32_t> leds;
@@ -439,7 +402,7 @@ void tst_Actions::identifyLightsTheMembersUntilOk()
 
     QList<std::uint32_t> whileShown;
     Shown box;
-    answerNextBox(&box, QMessageBox::Ok, [&] { whileShown = memberLeds(); });
+    answerNoting(&box, QMessageBox::Ok, [&] { whileShown = memberLeds(); });
     action(&window, "identifyAct")->trigger();
     QCOMPARE(box.title, QStringLiteral("Identify Array"));
     QVERIFY(box.text.startsWith(QStringLiteral("The LEDs representing the Disk(s)")));

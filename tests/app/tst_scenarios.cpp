@@ -19,7 +19,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -78,12 +77,12 @@ Array arrayOn(const Model &m, std::uint16_t route, const char *name, std::uint32
 
 QTreeWidget *pane(QWidget *window, const char *name)
 {
-    return window->findChild<QTreeWidget *>(QLatin1String(name));
+    return widget<QTreeWidget>(window, name);
 }
 
-QAction *menuAction(QWidget *window, const QString &name)
+QAction *menuAction(QWidget *window, const char *name)
 {
-    return window->findChild<QAction *>(name);
+    return widget<QAction>(window, name);
 }
 
 // The array's row under the computer in the array tree.
@@ -122,12 +121,7 @@ QProgressBar *taskBar(QWidget *window, int id)
 
 QTreeWidgetItem *listRow(QWidget *window, int id)
 {
-    QTreeWidget *list = pane(window, "arrayListTree");
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->data(0, SK_Role::DeviceId).toInt() == id)
-            return list->topLevelItem(i);
-    }
-    return nullptr;
+    return rowWithId(pane(window, "arrayListTree"), id, SK_Role::DeviceId);
 }
 
 QTreeWidgetItem *diskRow(QWidget *window, const QString &port)
@@ -173,15 +167,6 @@ bool delivered(const SK_MainWindow &window, int before, const std::function<bool
     return QTest::qWaitFor([&] { return deliveries(window) > before && shown(); }, 10000);
 }
 
-// Clicks the array's row of the array list, as a user picking it would.
-bool pickArray(SK_MainWindow &window, int id)
-{
-    QTreeWidgetItem *row = listRow(&window, id);
-    if (row)
-        window.arrayListSelectionChanged(row, 0);
-    return window.currentArray() == quint32(id);
-}
-
 // Presses the array's row in the array tree, as a user picking it there would.
 bool pickInTree(SK_MainWindow &window, int id)
 {
@@ -193,14 +178,6 @@ bool pickInTree(SK_MainWindow &window, int id)
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier,
                       tree->visualItemRect(row).center());
     return window.currentArray() == quint32(id);
-}
-
-void expectActions(QWidget *window, const QStringList &on, const QStringList &off)
-{
-    for (const QString &name : on)
-        QVERIFY2(menuAction(window, name)->isEnabled(), qPrintable(name + " is off"));
-    for (const QString &name : off)
-        QVERIFY2(!menuAction(window, name)->isEnabled(), qPrintable(name + " is on"));
 }
 
 // Answers every modal window that comes up, in whatever event loop runs: a message box
@@ -284,12 +261,7 @@ void tst_Scenarios::initTestCase()
 {
     Q_INIT_RESOURCE(resources);
     QVERIFY(m_dir.isValid());
-    QStandardPaths::setTestModeEnabled(true);
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path());
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path());
-    qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QCoreApplication::setOrganizationName(QStringLiteral("VOR-test"));
+    keepConsoleFilesIn(m_dir.path());
     m_folder = QStandardPaths::writableLocation(QStandardPaths::TempLocation) +
                QStringLiteral("/StrataKeep/");
     QVERIFY2(m_folder.startsWith(m_dir.path()), qPrintable(m_folder));
@@ -368,22 +340,15 @@ void tst_Scenarios::raid5IsCreatedAndInitialised()
     QVERIFY(opened(window, 2));
 
     ModalAnswerer answerer([](QDialog *dialog) {
-        auto *create = qobject_cast<SK_CreateDialog *>(dialog);
-        if (!create)
+        if (!qobject_cast<SK_CreateDialog *>(dialog))
             return;
-        create->findChild<QComboBox *>(QStringLiteral("arrayTypeSel"))->setCurrentIndex(kRaid5Row);
-        auto *disks = create->findChild<QTreeWidget *>(QStringLiteral("diskList"));
-        for (int i = 0; i < disks->topLevelItemCount(); ++i) {
-            QTreeWidgetItem *row = disks->topLevelItem(i);
-            if (row->data(0, SK_Role::DeviceId).toInt() >= kNvme)
-                row->setCheckState(0, Qt::Checked);
-        }
-        create->findChild<QLineEdit *>(QStringLiteral("arrayNameInput"))
-            ->setText(QStringLiteral("Scratch"));
-        create->findChild<QPushButton *>(QStringLiteral("createButton"))->click();
+        widget<QComboBox>(dialog, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
+        tickRows(widget<QTreeWidget>(dialog, "diskList"), {kNvme, kNvme + 1, kNvme + 2});
+        widget<QLineEdit>(dialog, "arrayNameInput")->setText(QStringLiteral("Scratch"));
+        click(dialog, "createButton");
     });
     int before = deliveries(window);
-    menuAction(&window, QStringLiteral("createAct"))->trigger();
+    menuAction(&window, "createAct")->trigger();
     QCOMPARE(answerer.titles, QStringList{QStringLiteral("Create")});
     QVERIFY(delivered(window, before, [&] { return treeRow(&window, kNew) != nullptr; }));
     const Model created = m_host->host->model();
@@ -496,14 +461,13 @@ void tst_Scenarios::mirrorIsTransformedIntoRaid5()
                 return;
             click(dialog, "sameButton");
             widget<QComboBox>(dialog, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
-            tickRows(widget<QTreeWidget>(dialog, "diskList"), {kNvme + 2}, Qt::Checked,
-                     SK_Role::DeviceId);
+            tickRows(widget<QTreeWidget>(dialog, "diskList"), {kNvme + 2});
             click(dialog, "setCurrentCapMaxButton");
             verdict = widget<QLabel>(dialog, "transformWarningLabel")->text();
             click(dialog, "commitButton");
         });
         const int before = deliveries(window);
-        menuAction(&window, QStringLiteral("transformAct"))->trigger();
+        menuAction(&window, "transformAct")->trigger();
         QCOMPARE(answerer.titles, QStringList{QStringLiteral("Transform")});
         QVERIFY2(delivered(window, before, [&] { return taskBar(&window, kNew) != nullptr; }),
                  qPrintable(verdict));
@@ -555,7 +519,7 @@ void tst_Scenarios::cachedArrayIsBuiltAndDeleted()
     startHost(std::move(model));
     SK_MainWindow window;
     QVERIFY(opened(window, 4));
-    QVERIFY2(menuAction(&window, QStringLiteral("cacheArraysAct")), "drivers of the 9.0.0 line");
+    QVERIFY2(menuAction(&window, "cacheArraysAct"), "drivers of the 9.0.0 line");
 
     // The user pairs the fast array, hot, with the bulk one, cold, in the caching dialog.
     {
@@ -563,15 +527,13 @@ void tst_Scenarios::cachedArrayIsBuiltAndDeleted()
             if (!qobject_cast<SK_TieringDialog *>(dialog))
                 return;
             // Each tick refills the other list: its rows are looked up after the tick.
-            tickRows(widget<QTreeWidget>(dialog, "coldArrayList"), {kBulk}, Qt::Checked,
-                     SK_Role::DeviceId);
-            tickRows(widget<QTreeWidget>(dialog, "hotArrayList"), {kFast}, Qt::Checked,
-                     SK_Role::DeviceId);
+            tickRows(widget<QTreeWidget>(dialog, "coldArrayList"), {kBulk});
+            tickRows(widget<QTreeWidget>(dialog, "hotArrayList"), {kFast});
             widget<QLineEdit>(dialog, "arrayNameInput")->setText(QStringLiteral("Paired"));
             click(dialog, "commitButton");
         });
         const int before = deliveries(window);
-        menuAction(&window, QStringLiteral("cacheArraysAct"))->trigger();
+        menuAction(&window, "cacheArraysAct")->trigger();
         QCOMPARE(answerer.titles, QStringList{QStringLiteral("Caching")});
         QVERIFY(delivered(window, before, [&] { return treeRow(&window, kTier) != nullptr; }));
     }
@@ -590,7 +552,7 @@ void tst_Scenarios::cachedArrayIsBuiltAndDeleted()
                   {"identifyAct", "prepareRemoveAct", "transformAct"});
     ModalAnswerer answerer;
     const int before = deliveries(window);
-    menuAction(&window, QStringLiteral("deleteAct"))->trigger();
+    menuAction(&window, "deleteAct")->trigger();
     QCOMPARE(answerer.texts, QStringList{QStringLiteral("Do you want to delete Array 5: Paired?")});
     const Model after = m_host->host->model();
     QVERIFY(!after.findArrayByRoute(kTier));
@@ -618,7 +580,7 @@ void tst_Scenarios::removalWaitsForTheVolume()
 
     {
         ModalAnswerer answerer;
-        menuAction(&window, QStringLiteral("prepareRemoveAct"))->trigger();
+        menuAction(&window, "prepareRemoveAct")->trigger();
         // The question, then the worker thread's verdict.
         QTRY_COMPARE(answerer.titles.size(), 2);
         QCOMPARE(answerer.titles.at(1), QStringLiteral("Problem Ejecting VOR Array 2 SCSI Device"));
@@ -637,7 +599,7 @@ void tst_Scenarios::removalWaitsForTheVolume()
     });
     ModalAnswerer answerer;
     const int before = deliveries(window);
-    menuAction(&window, QStringLiteral("prepareRemoveAct"))->trigger();
+    menuAction(&window, "prepareRemoveAct")->trigger();
     QTRY_COMPARE(answerer.titles.size(), 2);
     QCOMPARE(answerer.titles.at(1), QStringLiteral("Array Removal"));
     QVERIFY2(answerer.texts.at(1).startsWith(QStringLiteral("Array 2 has been removed")),

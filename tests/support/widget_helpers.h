@@ -1,17 +1,21 @@
 // Helpers the widget suites share: finding a dialog's parts by object name, ticking
-// rows of its lists, answering the message boxes it raises, keeping the settings it
-// writes away from the user's own, and taking pictures of it for a person to look at.
+// rows of its lists, answering the message boxes it raises, keeping the settings and
+// files it writes away from the user's own, picking an array in the main window and
+// checking its menu entries, and taking pictures of a dialog for a person to look at.
 #pragma once
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QColor>
 #include <QCoreApplication>
+#include <QFile>
 #include <QHeaderView>
 #include <QList>
 #include <QMessageBox>
 #include <QPalette>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QString>
 #include <QStringList>
 #include <QStyleFactory>
@@ -160,6 +164,37 @@ inline void keepSettingsIn(const QString &folder)
     QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+}
+
+// Keeps everything the console writes in `folder`: its settings, and below the
+// temporary folder its EventsLog.xml, StrataKeep.log and help copies. Suites run side
+// by side, each with its own folder.
+inline void keepConsoleFilesIn(const QString &folder)
+{
+    keepSettingsIn(folder);
+    QStandardPaths::setTestModeEnabled(true);
+    qputenv("TMPDIR", QFile::encodeName(folder));
+}
+
+// The main window's menu entries `on` are enabled and `off` are not.
+inline void expectActions(QWidget *window, const QStringList &on, const QStringList &off)
+{
+    for (const QString &name : on)
+        QVERIFY2(widget<QAction>(window, qPrintable(name))->isEnabled(),
+                 qPrintable(name + " is off"));
+    for (const QString &name : off)
+        QVERIFY2(!widget<QAction>(window, qPrintable(name))->isEnabled(),
+                 qPrintable(name + " is on"));
+}
+
+// Clicks the array's row of the main window's array list, as a user picking the array
+// would; true once the window holds it as the current array.
+template <typename Window>
+bool pickArray(Window &window, int id)
+{
+    if (QTreeWidgetItem *row = rowWithId(widget<QTreeWidget>(&window, "arrayListTree"), id))
+        window.arrayListSelectionChanged(row, 0);
+    return window.currentArray() == quint32(id);
 }
 
 inline QPalette darkPalette()
