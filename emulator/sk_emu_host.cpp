@@ -684,7 +684,16 @@ void Host::saveQuietly()
         return;
     StateTurn turn(*this, false); // inside a request this is the request's own turn
     std::string error;
-    writeState(error, false);
+    if (writeState(error, false))
+        m_lastSaveError.clear();
+    else
+        m_lastSaveError = error;
+}
+
+std::string Host::lastSaveError() const
+{
+    std::lock_guard<std::recursive_mutex> guard(m_mutex);
+    return m_lastSaveError;
 }
 
 // A state the file already holds is not written again: a request that changed nothing

@@ -93,6 +93,9 @@ public:
     void modify(const std::function<bool(Model &)> &change);
     std::uint64_t generation() const;
     SK_EmuClock &clock() const { return *m_clock; }
+    // Why the last write of the state file failed; empty when it succeeded. Requests keep
+    // running on the model in memory, but a tool that made a change must say it was lost.
+    std::string lastSaveError() const;
 
     // Appends an event to the driver's log, as the reverse path of the console does.
     void injectEvent(std::uint16_t message, const std::array<std::uint32_t, 8> &params);
@@ -189,6 +192,7 @@ private:
     std::string m_stateText;     // the file's bytes as last read or written
     std::string m_savedScenario; // the model the file holds, as writeScenario renders it
     int m_turnDepth = 0;         // nested turns hold the one file lock of the outermost
+    std::string m_lastSaveError;
 
     std::unique_ptr<SK_SystemView> m_system;
 };

@@ -147,6 +147,16 @@ bool writeStateTextAtomically(const std::string &path, const std::string &text, 
         }
     }
     fs::rename(temporary, target, ec);
+#ifdef _WIN32
+    // Windows refuses to replace a file that another process has open for reading (a
+    // console or skemu looking at the state without the lock); such a reader lets go
+    // within moments, so the replacement is tried again rather than the change lost.
+    for (int attempt = 0; ec && attempt < 100; ++attempt) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        ec.clear();
+        fs::rename(temporary, target, ec);
+    }
+#endif
     if (ec) {
         error = path + ": cannot be replaced (" + ec.message() + ")";
         fs::remove(temporary, ec);

@@ -488,6 +488,10 @@ int run(const std::string &state, const std::vector<std::string> &args, std::str
     }
     if (!done)
         return refuse(command, "disk " + diskId(id) + " changed meanwhile; nothing was done");
+    if (const std::string lost = host->lastSaveError(); !lost.empty()) {
+        say(err, "skemu: %s: the change could not be written: %s\n", command.c_str(), lost.c_str());
+        return 1;
+    }
     say(out, "%s: done, generation %llu\n", command.c_str(),
         static_cast<unsigned long long>(host->generation()));
     return 0;

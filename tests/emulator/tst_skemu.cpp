@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 using namespace sk_emu;
 
 namespace {
@@ -144,6 +146,21 @@ TEST_F(Skemu, malformedStateFileIsReportedWhereTheParserStopped)
         EXPECT_NE(err.find(state + ": line 3, column 15: syntax error"), std::string::npos) << err;
         EXPECT_EQ(readAll(state), before);
     }
+}
+
+TEST_F(Skemu, changeThatCannotBeWrittenIsReportedNotLost)
+{
+    // A directory where the replacement file would go makes every write fail.
+    const std::string before = readAll(state);
+    std::filesystem::create_directory(state + ".tmp");
+    EXPECT_EQ(run({"event", "1037", "1"}), 1);
+    EXPECT_NE(err.find("event: the change could not be written: " + state + ".tmp"),
+              std::string::npos)
+        << err;
+    EXPECT_EQ(out, "");
+    EXPECT_EQ(readAll(state), before);
+    std::filesystem::remove(state + ".tmp");
+    EXPECT_EQ(run({"event", "1037", "1"}), 0) << err;
 }
 
 struct Size
