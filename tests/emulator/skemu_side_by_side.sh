@@ -7,13 +7,19 @@ skemu=$1
 state=$2
 count=$3
 rm -f "$state" "$state.lock" "$state.tmp"
-$skemu --state "$state" init >/dev/null || exit 1
+fail() {
+    echo "skemu_side_by_side: $*" >&2
+    exit 1
+}
+
+$skemu --state "$state" init >/dev/null || fail "init ended with status $?"
 first=$($skemu --state "$state" events | sed -n 's/^next event number \([0-9]*\),.*/\1/p')
 
 appends() {
     i=0
     while [ "$i" -lt "$count" ]; do
-        $skemu --state "$state" event 1037 "$1" "$i" >/dev/null || exit 1
+        $skemu --state "$state" event 1037 "$1" "$i" >/dev/null ||
+            fail "append $i of writer $1 ended with status $?"
         i=$((i + 1))
     done
 }
@@ -21,8 +27,8 @@ appends 1 &
 one=$!
 appends 2 &
 two=$!
-wait "$one" || exit 1
-wait "$two" || exit 1
+wait "$one" || fail "writer 1 stopped early"
+wait "$two" || fail "writer 2 stopped early"
 
 last=$($skemu --state "$state" events | sed -n 's/^next event number \([0-9]*\),.*/\1/p')
 kept=$($skemu --state "$state" events | grep -c -E '\(01037\) [12] ')
