@@ -258,9 +258,18 @@ struct Plan
     std::uint64_t maxMiB = 0;
 };
 
+std::uint64_t smallestMemberSize(const Layout &layout)
+{
+    std::uint64_t smallest = ~0ull;
+    for (const Member &mem : layout.members)
+        smallest = std::min(smallest, mem.size);
+    return layout.members.empty() ? 0 : smallest;
+}
+
 // Lays out members on `disks`: each takes the largest free extent its disk offers, or
-// keeps its extent in `keep` (the array being transformed). Member size is the smallest
-// extent, so every member is alike.
+// keeps its extent in `keep` (the array being transformed). A volume concatenates its
+// members, so each keeps the size it found; every other level stripes or mirrors over
+// members alike, sized by the smallest extent (in a transform, by the array's own).
 Plan planLayout(Model &m, std::uint32_t type, std::uint32_t first, std::uint32_t second,
                 const std::vector<Disk *> &disks, const Array *keep)
 {
@@ -268,8 +277,7 @@ Plan planLayout(Model &m, std::uint32_t type, std::uint32_t first, std::uint32_t
     plan.layout.type = type;
     plan.layout.firstCount = first;
     plan.layout.secondCount = second;
-    std::uint64_t memberSize = ~0ull;
-    std::vector<std::uint64_t> offsets;
+    std::vector<std::uint64_t> offsets, sizes;
     for (Disk *d : disks) {
         const Member *kept = nullptr;
         if (keep) {
@@ -280,7 +288,7 @@ Plan planLayout(Model &m, std::uint32_t type, std::uint32_t first, std::uint32_t
         }
         if (kept) {
             offsets.push_back(kept->offset);
-            memberSize = std::min(memberSize, kept->size);
+            sizes.push_back(kept->size);
             continue;
         }
         if (const std::uint32_t why = diskUsability(*d); why != st::Ok) {
@@ -298,39 +306,48 @@ Plan planLayout(Model &m, std::uint32_t type, std::uint32_t first, std::uint32_t
             return plan;
         }
         offsets.push_back(offset);
-        memberSize = std::min(memberSize, free);
+        sizes.push_back(free);
     }
-    if (keep) {
-        // A transform keeps the member size of the array.
-        memberSize = keep->layout.members.empty() ? memberSize : keep->layout.members[0].size;
+    if (type != code::TypeVolume) {
+        std::uint64_t alike = sizes.empty() ? 0 : *std::min_element(sizes.begin(), sizes.end());
+        if (keep && !keep->layout.members.empty())
+            alike = smallestMemberSize(keep->layout);
+        std::fill(sizes.begin(), sizes.end(), alike);
     }
-    for (std::size_t i = 0; i < disks.size(); ++i)
+    std::uint64_t sum = 0;
+    for (std::size_t i = 0; i < disks.size(); ++i) {
         plan.layout.members.push_back(
-            Member{disks[i]->id, offsets[i], memberSize, offsets[i], memberSize, 0});
+            Member{disks[i]->id, offsets[i], sizes[i], offsets[i], sizes[i], 0});
+        sum += sizes[i];
+    }
     const std::uint64_t capacity =
-        layoutCapacity(type, first, second, memberSize, memberSize * disks.size());
+        layoutCapacity(type, first, second, smallestMemberSize(plan.layout), sum);
     plan.layout.capacity = capacity / kSectorsPerMiB * kSectorsPerMiB;
     plan.maxMiB = capacity / kSectorsPerMiB;
     return plan;
 }
 
-// Shrinks the members so the layout offers `wantedMiB` (never grows them).
+// Sector counts of big disks pass 2^37, so a product of two needs 128 bits.
+__extension__ typedef unsigned __int128 Wide;
+
+// Shrinks the members so the layout offers `wantedMiB` (never grows them). Each member
+// gives up the same share of its size, so a volume's unequal members stay in proportion.
 void fitCapacity(Layout &layout, std::uint64_t wantedMiB)
 {
     const std::uint64_t wanted = wantedMiB * kSectorsPerMiB;
     if (wanted == 0 || wanted >= layout.capacity || layout.members.empty())
         return;
     const std::uint64_t full = layout.capacity;
-    const std::uint64_t memberSize = layout.members[0].size;
-    std::uint64_t member = (memberSize * wanted + full - 1) / full;
-    member = (member + kSectorsPerMiB - 1) / kSectorsPerMiB * kSectorsPerMiB;
-    member = std::min(member, memberSize);
+    std::uint64_t sum = 0;
     for (Member &mem : layout.members) {
-        mem.size = mem.dataSize = member;
+        auto member = static_cast<std::uint64_t>((Wide{mem.size} * wanted + full - 1) / full);
+        member = (member + kSectorsPerMiB - 1) / kSectorsPerMiB * kSectorsPerMiB;
+        mem.size = mem.dataSize = std::min(member, mem.size);
+        sum += mem.size;
     }
     layout.capacity =
-        std::min(wanted, layoutCapacity(layout.type, layout.firstCount, layout.secondCount, member,
-                                        member * layout.members.size()));
+        std::min(wanted, layoutCapacity(layout.type, layout.firstCount, layout.secondCount,
+                                        smallestMemberSize(layout), sum));
 }
 
 // Resolves the drive references of a create or transform.
@@ -593,7 +610,7 @@ Plan planTransform(Model &m, const Request &req, const TransformFields &f, Array
         if (isMember)
             continue;
         std::uint64_t offset = 0;
-        if (largestFree(m, *d, offset) < array->layout.members[0].size) {
+        if (largestFree(m, *d, offset) < smallestMemberSize(array->layout)) {
             plan.status = st::NoSpace;
             return plan;
         }

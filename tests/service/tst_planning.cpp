@@ -174,6 +174,8 @@ private slots:
     void unraisedCreateRowsStayUnraised();
     void createMaximum_data();
     void createMaximum();
+    void createTakesTheAskedSize_data();
+    void createTakesTheAskedSize();
     void createClampsToTheMaximum();
     void createReachesTheDrivers_data();
     void createReachesTheDrivers();
@@ -319,6 +321,7 @@ void tst_planning::createMaximum_data()
         QTest::newRow(name) << QString::fromLatin1(type) << sizes << used << mib;
     };
     row("volume over three equal disks", "VOLUME", {1000, 1000, 1000}, {}, 3000);
+    row("volume over unequal disks: each counts whole", "VOLUME", {1000, 600, 800}, {}, 2400);
     row("RAIDable disk with half its room used", "RAIDABLE", {1000}, {500}, 500);
     row("RAID 0 over unequal disks: the smallest rules", "RAID0", {1000, 600, 800}, {}, 1800);
     row("RAID 1 where one disk has 400 MiB in use", "RAID1", {1000, 1000}, {400, 0}, 600);
@@ -354,6 +357,35 @@ void tst_planning::createMaximum()
     SK_Create c = request(type, firstDisks(sizes.size()), 50); // the size is not looked at
     const int max = lab.api->CreateArray(c, true);
     QCOMPARE(max, decimalOf(static_cast<std::uint64_t>(expectedMiB)));
+}
+
+void tst_planning::createTakesTheAskedSize_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QList<int>>("sizes"); // usable MiB of each disk
+    QTest::addColumn<int>("askedMB");
+    QTest::newRow("volume over unequal disks, half their room")
+        << QStringLiteral("VOLUME") << QList<int>{1000, 600} << 800;
+    QTest::newRow("RAID 0 over two 10 TB disks, a fifth of their room")
+        << QStringLiteral("RAID0") << QList<int>{10000000, 10000000} << 4000000;
+    QTest::newRow("RAID 5 over three 10 TB disks, all but a little")
+        << QStringLiteral("RAID5") << QList<int>{10000000, 10000000, 10000000} << 20000000;
+}
+
+void tst_planning::createTakesTheAskedSize()
+{
+    QFETCH(QString, type);
+    QFETCH(QList<int>, sizes);
+    QFETCH(int, askedMB);
+    std::vector<std::uint64_t> usable(sizes.begin(), sizes.end());
+    Lab lab(labModel(usable));
+    SK_Create c = request(type, firstDisks(sizes.size()), askedMB);
+    QCOMPARE(lab.api->CreateArray(c, false), 1);
+    lab.api->RefreshConfig();
+    const SK_ConfigArray *made = lab.arrayNamed("Lab");
+    QVERIFY(made);
+    const std::uint64_t askedMiB = lab.endpoint->withCode(2).at(0).u64(56);
+    QCOMPARE(std::uint64_t{made->Capacity}, askedMiB * kMiB);
 }
 
 void tst_planning::createClampsToTheMaximum()
