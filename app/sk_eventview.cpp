@@ -47,6 +47,39 @@ QString priorityText(quint32 priority)
     }
 }
 
+const QByteArray kClosingTag("</Logs>");
+
+// Where the closing tag starts when the file ends with it, blanks after it allowed
+// (a text editor adds a line end); -1 when the file was cut off or isn't ours.
+qint64 closingTagOffset(QFile &file)
+{
+    const qint64 size = file.size();
+    const qint64 window = qMin<qint64>(size, 256);
+    if (!file.seek(size - window))
+        return -1;
+    QByteArray tail = file.read(window);
+    while (!tail.isEmpty() && QChar::isSpace(static_cast<uchar>(tail.back())))
+        tail.chop(1);
+    if (!tail.endsWith(kClosingTag))
+        return -1;
+    return size - window + tail.size() - kClosingTag.size();
+}
+
+// A damaged file is kept beside under a name of its own, never written into: the times
+// it holds can still be read by hand, and the next append starts a sound file.
+bool setDamagedFileAside(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
+    QString aside = info.dir().absoluteFilePath(
+        info.completeBaseName() + QStringLiteral(".damaged-") + stamp + QStringLiteral(".xml"));
+    for (int n = 2; QFile::exists(aside); ++n)
+        aside = info.dir().absoluteFilePath(info.completeBaseName() + QStringLiteral(".damaged-") +
+                                            stamp + QLatin1Char('-') + QString::number(n) +
+                                            QStringLiteral(".xml"));
+    return QFile::rename(path, aside);
+}
+
 } // namespace
 
 void SK_MainWindow::pollEvents()
@@ -171,21 +204,30 @@ void SK_MainWindow::computeEventsLogPath()
 }
 
 // Appends entries in place: the closing tag is overwritten and written again after
-// them, so the file never has to be read to grow.
+// them, so the file never has to be read to grow. A file that doesn't end with the tag
+// (cut off, or not ours) is set aside rather than written into.
 void SK_MainWindow::appendEventsXml(const std::list<SK_EventRecord> &records)
 {
     if (!QFile::exists(eventsLogPath))
         computeEventsLogPath();
     QFile file(eventsLogPath);
-    const qint64 size = file.size();
-    const QByteArray closing("</Logs>");
+    qint64 size = file.size();
     if (size > 0) {
         if (!file.open(QIODevice::ReadWrite))
             return;
-        file.seek(size - closing.size());
-    } else if (!file.open(QIODevice::WriteOnly)) {
-        return;
+        const qint64 closingAt = closingTagOffset(file);
+        if (closingAt < 0) {
+            file.close();
+            if (!setDamagedFileAside(eventsLogPath))
+                return;
+            size = 0;
+        } else {
+            file.resize(closingAt);
+            file.seek(closingAt);
+        }
     }
+    if (size == 0 && !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return;
     QXmlStreamWriter xml(&file);
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(2);
@@ -203,7 +245,7 @@ void SK_MainWindow::appendEventsXml(const std::list<SK_EventRecord> &records)
     }
     if (size > 0) {
         QTextStream tail(&file);
-        tail << "\n" << closing;
+        tail << "\n" << kClosingTag;
     } else {
         xml.writeEndElement();
         xml.writeEndDocument();

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDomDocument>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
@@ -45,6 +46,8 @@ private slots:
     void enablementFollowsTheSelectedArray_data();
     void enablementFollowsTheSelectedArray();
     void newEventsGetATimeAndReachTheFiles();
+    void eventsXmlGrowsWithoutDamage_data();
+    void eventsXmlGrowsWithoutDamage();
     void notifierKeepsTheConsoleQuiet();
     void statusBarShowsTheDriversFigures();
     void missingDriversAreReported();
@@ -198,6 +201,58 @@ void tst_MainWindow::newEventsGetATimeAndReachTheFiles()
     for (int i = 0; i < later->topLevelItemCount(); ++i)
         found |= later->topLevelItem(i)->text(1) == stamp;
     QVERIFY2(found, "the time of the event was not read back from EventsLog.xml");
+}
+
+void tst_MainWindow::eventsXmlGrowsWithoutDamage_data()
+{
+    const QByteArray sound =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Logs>\n"
+        "  <LogEntry>\n    <LogNumber>2</LogNumber>\n"
+        "    <LogTime>1/02/2026 3:04:05 PM  </LogTime>\n"
+        "    <Code>1001</Code>\n    <Text>Kept.</Text>\n  </LogEntry>\n</Logs>";
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<bool>("setAside"); // the old file must be kept beside, unchanged
+    QTest::newRow("ends with the closing tag") << sound << false;
+    QTest::newRow("a line end after the closing tag") << sound + "\n\n" << false;
+    QTest::newRow("cut off inside an entry") << sound.left(sound.size() - 40) << true;
+    QTest::newRow("not an event file") << QByteArray("just some text\n") << true;
+}
+
+void tst_MainWindow::eventsXmlGrowsWithoutDamage()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(bool, setAside);
+    const QDir folder = QFileInfo(eventsLogPath()).dir();
+    for (const QString &old : folder.entryList({QStringLiteral("EventsLog.damaged-*")}))
+        QFile::remove(folder.absoluteFilePath(old));
+    {
+        SK_MainWindow window; // the first poll only reads the file
+        QFile file(eventsLogPath());
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(before);
+        file.close();
+        m_host->host->injectEvent(1012, {});
+        window.menu_refresh();
+    }
+
+    QFile file(eventsLogPath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QDomDocument document;
+    QVERIFY2(document.setContent(&file), "EventsLog.xml no longer parses");
+    QStringList codes;
+    for (QDomElement e = document.documentElement().firstChildElement(); !e.isNull();
+         e = e.nextSiblingElement())
+        codes << e.firstChildElement(QStringLiteral("Code")).text();
+    QCOMPARE(codes.last(), QStringLiteral("1012"));
+    QCOMPARE(codes.contains(QStringLiteral("1001")), !setAside);
+
+    const QStringList aside = folder.entryList({QStringLiteral("EventsLog.damaged-*.xml")});
+    QCOMPARE(aside.size(), setAside ? 1 : 0);
+    if (setAside) {
+        QFile kept(folder.absoluteFilePath(aside.first()));
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), before);
+    }
 }
 
 void tst_MainWindow::notifierKeepsTheConsoleQuiet()
