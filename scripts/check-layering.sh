@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Checks that includes run down the layers only. Lists file:line of every include of a
-# layer the file may not use and exits 1 when there is one. tests/, fuzz/ and bench/
-# may use every layer and are not checked.
+# layer the file may not use and exits 1 when there is one. tests/, fuzz/, bench/ and
+# tools/ may use every layer and are not checked.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -40,7 +40,8 @@ while IFS= read -r file; do
         fi
     done < <(grep -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"[a-z_]+/' "$file" |
              sed -E 's|^([0-9]+):[^"]*"([a-z_]+)/.*|\1:\2|')
-done < <(git ls-files -- '*.cpp' '*.h' ':(exclude)tests' ':(exclude)fuzz' ':(exclude)bench')
+done < <(git ls-files -- '*.cpp' '*.h' ':(exclude)tests' ':(exclude)fuzz' ':(exclude)bench' \
+                         ':(exclude)tools')
 
 if ((failed)); then
     echo "layering: includes above reach a layer the file may not use" >&2
