@@ -159,163 +159,216 @@ QColor SK_MainWindow::stateColor(const QString &state, bool hidden) const
 
 // --- Array tree ---
 
+namespace {
+
+// What the rows of the array tree are drawn with, fixed for one rebuild.
+struct TreeLook
+{
+    QIcon diskIcon;
+    QColor plain;
+};
+
+QString arrayRowText(const LogicalDrive &record, bool hasTask)
+{
+    const QString state = latin(record.State);
+    QString text = SK_MainWindow::tr("Array ") + QString::number(record.Device) + QLatin1Char(' ');
+    if (hasTask)
+        text += QStringLiteral(" ") + QString::number(record.TransformPercentComplete, 'f', 2) +
+                QStringLiteral("%");
+    if (!textIs(record.DisplayName, "NONE"))
+        text += QLatin1Char(' ') + QString::fromLocal8Bit(record.DisplayName);
+    text += QLatin1Char(' ');
+    if (state != QLatin1String("NORMAL"))
+        text += stateText(state) + QLatin1Char(' ');
+    if (record.Attributes & kHidden)
+        text += SK_MainWindow::tr("(Hidden)");
+    return text;
+}
+
+// The running task as a bar under its array: yellow when paused, blue while two
+// layouts exist (transform, restore), green otherwise.
+QProgressBar *taskBar(const LogicalDrive &record, bool twoLayouts)
+{
+    auto *bar = new QProgressBar;
+    bar->setObjectName(QStringLiteral("taskProgress%1").arg(record.Device));
+    bar->setRange(0, 100);
+    bar->setValue(static_cast<int>(record.TransformPercentComplete));
+    const QString format = taskText(latin(record.TransformType)) + QLatin1Char(' ') +
+                           taskStateText(latin(record.TransformState));
+    bar->setFormat(format);
+    bar->setAlignment(Qt::AlignCenter);
+    bar->setFixedWidth(bar->fontMetrics().horizontalAdvance(format) + 50);
+    const char *chunk = textIs(record.TransformState, "PAUSED") ? "#f5cb42"
+                        : twoLayouts                            ? "#4174db"
+                                                                : "#3fc433";
+    bar->setStyleSheet(
+        QStringLiteral("QProgressBar::chunk {background: %1;}").arg(QLatin1String(chunk)));
+    return bar;
+}
+
+QString diskRowText(const SK_ConfigDisk &disk)
+{
+    return SK_MainWindow::tr("Disk ") + QString::number(disk.ControllerNumber) + QLatin1Char(' ') +
+           QString::number(disk.Channel) + QStringLiteral(" (") + latin(disk.Model).trimmed() +
+           QStringLiteral(") ");
+}
+
+void addMissingRow(QTreeWidgetItem *parent, const TreeLook &look)
+{
+    auto *row = new QTreeWidgetItem(parent, {SK_MainWindow::tr("Missing")});
+    row->setForeground(0, look.plain);
+    row->setIcon(0, QIcon(QStringLiteral(":images/icons/small_missingDRIVE.png")));
+}
+
+// The dedicated spares of a redundant layout; one that is no longer this array's
+// spare, or no longer listed, shows as missing.
+void addSpareRows(SK_RaidApi &api, QTreeWidgetItem *typeRow, const LogicalDrive &shown, int arrayId,
+                  const TreeLook &look)
+{
+    const int spares = std::clamp<int>(shown.SpareCount, 0, SK_SNAPSHOT_SPARES);
+    if (spares == 0 || !SK_RaidApi::TypeIsRedundant(latin(shown.Type)))
+        return;
+    auto *spareRow = new QTreeWidgetItem(typeRow, {SK_MainWindow::tr(" Dedicated Spares")});
+    spareRow->setIcon(0, QIcon(QStringLiteral(":images/icons/Spare.png")));
+    for (int s = 0; s < spares; ++s) {
+        const int disk = shown.Spares[s].Device;
+        const SK_ConfigDisk *spare = api.GetDiskRecord(api.GetDiskIndex(disk));
+        if (spare && api.IsDedicatedSpareOf(arrayId, disk)) {
+            auto *row = new QTreeWidgetItem(spareRow, {diskRowText(*spare)});
+            row->setIcon(0, look.diskIcon);
+        } else {
+            addMissingRow(spareRow, look);
+        }
+    }
+}
+
+// A member disk: plain while online without error, "Missing" when it is gone without
+// having failed, red with its error when it failed or reports a SMART alarm.
+void addMemberDiskRow(QTreeWidgetItem *group, const SK_ConfigDisk &disk,
+                      const SK_ConfigMember &member, const TreeLook &look)
+{
+    const QString error = errorText(latin(member.Error));
+    const bool smartError = textIs(disk.State, "SMART_Error") || textIs(disk.State, "SMART_error");
+    if (textIs(disk.State, "Online") && error == SK_MainWindow::tr("NoError")) {
+        auto *row = new QTreeWidgetItem(group, {diskRowText(disk)});
+        row->setForeground(0, look.plain);
+        row->setIcon(0, look.diskIcon);
+    } else if (!smartError && error != SK_MainWindow::tr("Failed") &&
+               error != SK_MainWindow::tr("Failed Offline")) {
+        addMissingRow(group, look);
+    } else {
+        auto *row = new QTreeWidgetItem(group, {diskRowText(disk) + QLatin1Char(' ') + error});
+        row->setForeground(0, QColor(Qt::red));
+        row->setIcon(0, QIcon(QStringLiteral(":images/icons/small_failedDRIVE.png")));
+    }
+}
+
+// A tier or cache pair lists the arrays it is made of, not disks.
+void addMemberArrayRow(QTreeWidgetItem *group, const QList<LogicalDrive *> &arrays,
+                       quint64 memberId)
+{
+    for (const LogicalDrive *other : arrays) {
+        if (other->ArrayId != memberId)
+            continue;
+        auto *row = new QTreeWidgetItem(
+            group,
+            {SK_MainWindow::tr("Array ") + QString::number(other->Device) + QStringLiteral(" (") +
+             QString::fromLocal8Bit(other->DisplayName) + QStringLiteral(")")});
+        row->setIcon(0, QIcon(QStringLiteral(":images/icons/small_array.png")));
+        return;
+    }
+}
+
+// The members of one layout; mirrored and parity groups of a nested level get a row of
+// their own each.
+void addMemberRows(SK_RaidApi &api, QTreeWidgetItem *typeRow, const LogicalDrive &shown,
+                   const QList<LogicalDrive *> &arrays, const TreeLook &look)
+{
+    const QString type = latin(shown.Type);
+    const int first = shown.FirstCount;
+    const int second = shown.SecondCount;
+    const int members = std::clamp(first * second, 0, int(SK_SNAPSHOT_MEMBERS));
+    const bool flat = first * second == first + second - 1;
+    const bool arrayMembers = type == QLatin1String("RAIDTIER") ||
+                              type == QLatin1String("PROMISE") ||
+                              type == QLatin1String("RAIDCACHE");
+    QTreeWidgetItem *group = typeRow;
+    for (int m = 0; m < members; ++m) {
+        if (!flat && second > 0 && m % second == 0) {
+            const QString label = memberGroupType(type);
+            group = new QTreeWidgetItem(typeRow, {label});
+            group->setIcon(0, arrayIcon(label, QStringLiteral("NORMAL")));
+        }
+        const SK_ConfigMember &member = shown.Members[m];
+        if (flat && arrayMembers) {
+            addMemberArrayRow(group, arrays, member.DiskId);
+            continue;
+        }
+        if (const SK_ConfigDisk *disk = api.GetDiskRecord(api.GetDiskIndex(member.Device)))
+            addMemberDiskRow(group, *disk, member, look);
+    }
+}
+
+// An array's layout under its row: both layouts while a transform or restore runs,
+// the source first.
+void addLayoutRows(SK_RaidApi &api, QTreeWidgetItem *arrayRow, const LogicalDrive &record,
+                   bool twoLayouts, const QList<LogicalDrive *> &arrays, const TreeLook &look)
+{
+    const int id = record.Device;
+    for (int layout = 1; layout >= 0; --layout) {
+        const LogicalDrive *shown = &record;
+        QString suffix;
+        if (twoLayouts) {
+            shown = api.GetArrayByIndex(api.GetArrayIndex(id), layout == 1);
+            if (!shown)
+                continue;
+            suffix =
+                layout == 1 ? SK_MainWindow::tr(" (Source)") : SK_MainWindow::tr(" (Destination)");
+        }
+        const QString type = latin(shown->Type);
+        auto *typeRow = new QTreeWidgetItem(arrayRow, {type + suffix});
+        typeRow->setIcon(0, arrayIcon(type, latin(record.State)));
+        addSpareRows(api, typeRow, *shown, id, look);
+        addMemberRows(api, typeRow, *shown, arrays, look);
+        if (!twoLayouts)
+            break;
+    }
+}
+
+} // namespace
+
 void SK_MainWindow::buildArrayTree()
 {
     auto *root = new QTreeWidgetItem(arrayTree, {raidApi->ComputerName()});
     root->setIcon(0, QIcon(QStringLiteral(":images/icons/small_system.png")));
     arrayTree->setIconSize(iconSize);
-    const QIcon diskIcon(QPixmap(QStringLiteral(":images/icons/HDD.png"))
-                             .scaled(iconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    const QColor plain = plainColor();
-    if (arrayList.isEmpty())
-        return;
+    const TreeLook look{QIcon(QPixmap(QStringLiteral(":images/icons/HDD.png"))
+                                  .scaled(iconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)),
+                        plainColor()};
 
-    for (int index = 0; index < arrayList.size(); ++index) {
-        const LogicalDrive *record = arrayList.at(index);
+    for (const LogicalDrive *record : qAsConst(arrayList)) {
         const int id = record->Device;
         const QString state = latin(record->State);
         const bool hidden = (record->Attributes & kHidden) != 0;
-        const QString stateSuffix =
-            state == QLatin1String("NORMAL") ? QString() : stateText(state) + QLatin1Char(' ');
         const bool hasTask =
             record->TransformPercentComplete > 0.0f || !textIs(record->TransformType, "NOT_ACTIVE");
-        const QString progressText =
-            hasTask
-                ? QStringLiteral(" ") + QString::number(record->TransformPercentComplete, 'f', 2) +
-                      QStringLiteral("%")
-                : QString();
         const bool twoLayouts =
             textIs(record->TransformType, "TRANSFORM") || textIs(record->TransformType, "RESTORE");
-        const QString hiddenText = hidden ? tr("(Hidden)") : QString();
 
-        QString text = tr("Array ") + QString::number(id) + QLatin1Char(' ') + progressText;
-        if (!textIs(record->DisplayName, "NONE"))
-            text += QLatin1Char(' ') + QString::fromLocal8Bit(record->DisplayName);
-        text += QLatin1Char(' ') + stateSuffix + hiddenText;
-        auto *arrayRow = new QTreeWidgetItem(root, {text});
+        auto *arrayRow = new QTreeWidgetItem(root, {arrayRowText(*record, hasTask)});
         arrayRow->setData(0, SK_Role::DeviceId, id);
         arrayRow->setIcon(0, QIcon(static_cast<quint32>(id) == selectedArray
                                        ? QStringLiteral(":images/icons/small_selectedDISK.png")
                                        : QStringLiteral(":images/icons/small_array.png")));
         arrayRow->setForeground(
-            0, state != QLatin1String("NORMAL") || hidden ? stateColor(state, hidden) : plain);
-
+            0, state != QLatin1String("NORMAL") || hidden ? stateColor(state, hidden) : look.plain);
         if (hasTask) {
             auto *taskRow = new QTreeWidgetItem(arrayRow);
-            auto *bar = new QProgressBar;
-            bar->setObjectName(QStringLiteral("taskProgress%1").arg(id));
-            bar->setRange(0, 100);
-            bar->setValue(static_cast<int>(record->TransformPercentComplete));
-            const QString format = taskText(latin(record->TransformType)) + QLatin1Char(' ') +
-                                   taskStateText(latin(record->TransformState));
-            bar->setFormat(format);
-            bar->setAlignment(Qt::AlignCenter);
-            bar->setFixedWidth(bar->fontMetrics().horizontalAdvance(format) + 50);
-            if (textIs(record->TransformState, "PAUSED"))
-                bar->setStyleSheet(QStringLiteral("QProgressBar::chunk {background: #f5cb42;}"));
-            else if (twoLayouts)
-                bar->setStyleSheet(QStringLiteral("QProgressBar::chunk {background: #4174db;}"));
-            else
-                bar->setStyleSheet(QStringLiteral("QProgressBar::chunk {background: #3fc433;}"));
-            arrayTree->setItemWidget(taskRow, 0, bar);
+            arrayTree->setItemWidget(taskRow, 0, taskBar(*record, twoLayouts));
             arrayRow->setData(0, SK_Role::TaskRow, QStringLiteral("expand"));
             arrayRow->setExpanded(true);
         }
-
-        for (int layout = 1; layout >= 0; --layout) {
-            const LogicalDrive *shown = record;
-            QString suffix;
-            if (twoLayouts) {
-                shown = raidApi->GetArrayByIndex(raidApi->GetArrayIndex(id), layout == 1);
-                if (!shown)
-                    continue;
-                suffix = layout == 1 ? tr(" (Source)") : tr(" (Destination)");
-            }
-            const QString type = latin(shown->Type);
-            auto *typeRow = new QTreeWidgetItem(arrayRow, {type + suffix});
-            typeRow->setIcon(0, arrayIcon(type, state));
-
-            const int spares = std::clamp<int>(shown->SpareCount, 0, SK_SNAPSHOT_SPARES);
-            if (spares > 0 && SK_RaidApi::TypeIsRedundant(type)) {
-                auto *spareRow = new QTreeWidgetItem(typeRow, {tr(" Dedicated Spares")});
-                spareRow->setIcon(0, QIcon(QStringLiteral(":images/icons/Spare.png")));
-                for (int s = 0; s < spares; ++s) {
-                    const int disk = shown->Spares[s].Device;
-                    const SK_ConfigDisk *spare =
-                        raidApi->GetDiskRecord(raidApi->GetDiskIndex(disk));
-                    if (spare && raidApi->IsDedicatedSpareOf(id, disk)) {
-                        auto *row = new QTreeWidgetItem(
-                            spareRow, {tr("Disk ") + QString::number(spare->ControllerNumber) +
-                                       QLatin1Char(' ') + QString::number(spare->Channel) +
-                                       QStringLiteral(" (") + latin(spare->Model).trimmed() +
-                                       QStringLiteral(") ")});
-                        row->setIcon(0, diskIcon);
-                    } else {
-                        auto *row = new QTreeWidgetItem(spareRow, {tr("Missing")});
-                        row->setForeground(0, plain);
-                        row->setIcon(0,
-                                     QIcon(QStringLiteral(":images/icons/small_missingDRIVE.png")));
-                    }
-                }
-            }
-
-            const int first = shown->FirstCount;
-            const int second = shown->SecondCount;
-            const int members = std::clamp(first * second, 0, int(SK_SNAPSHOT_MEMBERS));
-            const bool flat = first * second == first + second - 1;
-            const bool arrayMembers = type == QLatin1String("RAIDTIER") ||
-                                      type == QLatin1String("PROMISE") ||
-                                      type == QLatin1String("RAIDCACHE");
-            QTreeWidgetItem *group = typeRow;
-            for (int m = 0; m < members; ++m) {
-                if (!flat && second > 0 && m % second == 0) {
-                    const QString label = memberGroupType(type);
-                    group = new QTreeWidgetItem(typeRow, {label});
-                    group->setIcon(0, arrayIcon(label, QStringLiteral("NORMAL")));
-                }
-                const SK_ConfigMember &member = shown->Members[m];
-                if (flat && arrayMembers) {
-                    for (const LogicalDrive *other : qAsConst(arrayList)) {
-                        if (other->ArrayId != member.DiskId)
-                            continue;
-                        auto *row = new QTreeWidgetItem(
-                            group,
-                            {tr("Array ") + QString::number(other->Device) + QStringLiteral(" (") +
-                             QString::fromLocal8Bit(other->DisplayName) + QStringLiteral(")")});
-                        row->setIcon(0, QIcon(QStringLiteral(":images/icons/small_array.png")));
-                        break;
-                    }
-                    continue;
-                }
-                const SK_ConfigDisk *disk =
-                    raidApi->GetDiskRecord(raidApi->GetDiskIndex(member.Device));
-                if (!disk)
-                    continue;
-                const QString label =
-                    QStringLiteral(" (") + latin(disk->Model).trimmed() + QStringLiteral(") ");
-                const QString error = errorText(latin(member.Error));
-                const QString diskText = tr("Disk ") + QString::number(disk->ControllerNumber) +
-                                         QLatin1Char(' ') + QString::number(disk->Channel) + label;
-                auto *row = new QTreeWidgetItem(group);
-                const bool smartError =
-                    textIs(disk->State, "SMART_Error") || textIs(disk->State, "SMART_error");
-                if (textIs(disk->State, "Online") && error == tr("NoError")) {
-                    row->setText(0, diskText);
-                    row->setForeground(0, plain);
-                    row->setIcon(0, diskIcon);
-                } else if (!smartError && error != tr("Failed") && error != tr("Failed Offline")) {
-                    row->setText(0, tr("Missing"));
-                    row->setForeground(0, plain);
-                    row->setIcon(0, QIcon(QStringLiteral(":images/icons/small_missingDRIVE.png")));
-                } else {
-                    row->setText(0, diskText + QLatin1Char(' ') + error);
-                    row->setForeground(0, QColor(Qt::red));
-                    row->setIcon(0, QIcon(QStringLiteral(":images/icons/small_failedDRIVE.png")));
-                }
-            }
-            if (!twoLayouts)
-                break;
-        }
+        addLayoutRows(*raidApi, arrayRow, *record, twoLayouts, arrayList, look);
     }
 }
 
