@@ -156,6 +156,14 @@ private:
     bool confirm(const QString &question);
     void setCacheChecks(QAction *checked);
 
+    // Steps of updateArrayActions, in the order it takes them.
+    void enableForArray(const LogicalDrive &record);
+    void enableForRunningTask(const LogicalDrive &record);
+    void enableForIdleArray(const LogicalDrive &record);
+    void limitForLegacyArray();
+    void limitForTierOrCache();
+    void limitForRoleAndState(const LogicalDrive &record);
+
     SK_RaidApi *raidApi = nullptr;
     SK_RaidApi *statsApi = nullptr;
     QSize smallIconSize{24, 24};
