@@ -41,8 +41,7 @@ public:
         if (m_host.m_turnDepth++ > 0 || m_host.m_statePath.empty())
             return;
         m_lock = std::make_unique<StateFileLock>(m_host.m_statePath);
-        if (reload)
-            m_host.reloadIfChangedOnDisk();
+        m_host.m_stateUnusable = reload ? m_host.reloadIfChangedOnDisk() : std::string();
     }
     ~StateTurn() { --m_host.m_turnDepth; }
     StateTurn(const StateTurn &) = delete;
@@ -683,6 +682,10 @@ void Host::saveQuietly()
     if (m_statePath.empty())
         return;
     StateTurn turn(*this, false); // inside a request this is the request's own turn
+    if (!m_stateUnusable.empty()) {
+        m_lastSaveError = m_stateUnusable + " (the file was left as it is)";
+        return;
+    }
     std::string error;
     if (writeState(error, false))
         m_lastSaveError.clear();
@@ -711,21 +714,27 @@ bool Host::writeState(std::string &error, bool evenIfUnchanged)
 }
 
 // Another process (skemu, a second console) may have changed the state file: take its
-// state, keeping channels and statistics. A file that no longer reads is ignored, not
-// overwritten until our own next change.
-void Host::reloadIfChangedOnDisk()
+// state, keeping channels and statistics. A file that exists but can't be read, or no
+// longer parses (a hand edit gone wrong), is never written over: the answer says why,
+// and this turn's changes stay in memory until the file reads again.
+std::string Host::reloadIfChangedOnDisk()
 {
     std::string text, error;
-    if (!readStateText(m_statePath, text, error) || text == m_stateText)
-        return;
+    if (!readStateText(m_statePath, text, error)) {
+        std::error_code ec;
+        return std::filesystem::exists(m_statePath, ec) ? error : std::string();
+    }
+    if (text == m_stateText)
+        return {};
     Model model;
     if (!parseScenario(text, model, error))
-        return;
+        return m_statePath + ": " + error;
     m_stateText = std::move(text);
     m_savedScenario = writeScenario(model);
     if (model.generation != m_model.generation)
         recordHistory();
     m_model = std::move(model);
+    return {};
 }
 
 } // namespace sk_emu

@@ -163,7 +163,7 @@ private:
                           bool viaRoute);
     std::vector<std::uint8_t> replyFor(Channel &channel, std::uint32_t &status);
     class StateTurn;
-    void reloadIfChangedOnDisk();
+    std::string reloadIfChangedOnDisk();
     void saveQuietly();
     bool writeState(std::string &error, bool evenIfUnchanged);
     void recordHistory();
@@ -193,6 +193,7 @@ private:
     std::string m_savedScenario; // the model the file holds, as writeScenario renders it
     int m_turnDepth = 0;         // nested turns hold the one file lock of the outermost
     std::string m_lastSaveError;
+    std::string m_stateUnusable; // why this turn found the file unreadable; then it isn't written
 
     std::unique_ptr<SK_SystemView> m_system;
 };

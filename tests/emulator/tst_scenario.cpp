@@ -159,6 +159,30 @@ TEST_F(StateFile, malformedFileIsReportedWithItsNameAndLeftAlone)
     EXPECT_EQ(readAll(path), broken);
 }
 
+// A file spoiled while the host runs (a hand edit gone wrong) is reported, never
+// written over; once mended, the host takes the mended state and writes again.
+TEST_F(StateFile, fileSpoiledWhileRunningIsLeftForItsOwnerToMend)
+{
+    auto host = open();
+    ASSERT_TRUE(host);
+    const std::string sound = readAll(path);
+    const std::string spoiled = sound.substr(0, sound.size() / 2);
+    writeAll(path, spoiled);
+
+    host->injectEvent(1037, {1});
+    EXPECT_TRUE(readAll(path) == spoiled) << "the spoiled file was written over";
+    EXPECT_EQ(host->lastSaveError().rfind(path + ": ", 0), 0u) << host->lastSaveError();
+
+    writeAll(path, sound);
+    const std::uint32_t next = host->model().nextEventNumber;
+    host->injectEvent(1037, {2});
+    EXPECT_EQ(host->lastSaveError(), "");
+    Model saved;
+    ASSERT_TRUE(readStateFile(path, saved, error)) << error;
+    EXPECT_EQ(saved.nextEventNumber, next + 1);
+    EXPECT_EQ(saved.events.back().params[0], 2u);
+}
+
 TEST_F(StateFile, changesByAnotherProcessAreTakenOnTheNextRequest)
 {
     // A second host on the same file stands for skemu in another process.
