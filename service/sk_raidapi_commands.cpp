@@ -55,7 +55,7 @@ bool SK_RaidApi::AssignGlobalSpare(int disk)
         sparesOfCounterArrays(*this, disk))
         return false;
     OneName name(record->Name);
-    return succeeded(SK_ApiManageSpare(Channel(), nullptr, 1, name.list, 1, 1, 0));
+    return succeeded(SK_ApiManageSpare(Channel(), nullptr, 1, name.list, 1, 1, 1));
 }
 
 bool SK_RaidApi::RemoveGlobalSpare(int disk)
@@ -66,7 +66,7 @@ bool SK_RaidApi::RemoveGlobalSpare(int disk)
     if (!record)
         return false;
     OneName name(record->Name);
-    return succeeded(SK_ApiManageSpare(Channel(), nullptr, 1, name.list, 0, 1, 0));
+    return succeeded(SK_ApiManageSpare(Channel(), nullptr, 1, name.list, 0, 1, 1));
 }
 
 bool SK_RaidApi::AssignDedicatedSpare(int array, int disk)
@@ -78,7 +78,7 @@ bool SK_RaidApi::AssignDedicatedSpare(int array, int disk)
         !DiskFitsAsSpare(array, disk))
         return false;
     OneName name(record->Name);
-    return succeeded(SK_ApiManageSpare(Channel(), target->Name, 1, name.list, 1, 0, 0));
+    return succeeded(SK_ApiManageSpare(Channel(), target->Name, 1, name.list, 1, 0, 1));
 }
 
 bool SK_RaidApi::RemoveDedicatedSpare(int array, int disk)
@@ -88,7 +88,7 @@ bool SK_RaidApi::RemoveDedicatedSpare(int array, int disk)
     const SK_ConfigArray *target = GetArrayRecord(array, true);
     const SK_ConfigDisk *record = GetDiskRecord(GetDiskIndex(disk));
     OneName name(record->Name);
-    return succeeded(SK_ApiManageSpare(Channel(), target->Name, 1, name.list, 0, 0, 0));
+    return succeeded(SK_ApiManageSpare(Channel(), target->Name, 1, name.list, 0, 0, 1));
 }
 
 bool SK_RaidApi::RemoveArraySpares(int array)
@@ -332,24 +332,25 @@ bool SK_RaidApi::ManageDiskCache(const SK_DiskManage &disks)
     return lastSucceeded;
 }
 
+// A negative count only rescans; an empty list does nothing. A disk the picture no
+// longer holds ends the command before the rescan. The drivers' answers to the sends
+// aren't looked at: the rescan's answer is the result.
 bool SK_RaidApi::ManageDiskSmart(const SK_DiskManage &disks)
 {
-    bool allDone = true;
+    if (disks.diskCount == 0)
+        return false;
     const int count = std::min<int>(disks.diskCount, SK_MAX_LIST_DISKS);
     for (int i = 0; i < count; ++i) {
         const SK_ConfigDisk *record = GetDiskRecord(GetDiskIndex(static_cast<int>(disks.disks[i])));
         if (!record || textIs(record->Type, "Core"))
-            continue;
+            return false;
         OneName name(record->Name);
-        if (disks.smartOn)
-            allDone &= succeeded(SK_ApiManagePhysicalDevice(Channel(), 1, name.list, 0,
-                                                            SK_DISK_SMART_POLLING_ON, 0));
-        if (disks.smartOff)
-            allDone &= succeeded(SK_ApiManagePhysicalDevice(Channel(), 1, name.list, 0,
-                                                            SK_DISK_SMART_POLLING_OFF, 0));
+        SK_ApiManagePhysicalDevice(
+            Channel(), 1, name.list, 0,
+            disks.smartOn ? SK_DISK_SMART_POLLING_ON : SK_DISK_SMART_POLLING_OFF, 0);
     }
     // The polling state shows in the disk's features only after the driver looked again.
-    return Rescan() && allDone;
+    return Rescan();
 }
 
 bool SK_RaidApi::BlinkDisk(int disk, bool on)

@@ -270,6 +270,16 @@ void tst_facade::commandsReachTheDrivers()
          7, 32, 31906},
         {"drop the global spare", [](Lab &f) { return f->RemoveGlobalSpare(kSpare); }, 7, 32,
          31909},
+        {"drop a dedicated spare",
+         [](Lab &f) {
+             f.host->modify([](Model &m) { return !(m.disks[5].globalSpare = false); });
+             f->RefreshConfig();
+             if (!f->AssignDedicatedSpare(kData, kSpare))
+                 return false;
+             f->RefreshConfig();
+             return f->RemoveDedicatedSpare(kData, kSpare);
+         },
+         7, 32, 31907},
         {"remove all spares", [](Lab &f) { return f->RemoveArraySpares(kData); }, 7, 32, 31917},
         {"hide", [](Lab &f) { return f->HideArray(kData); }, 7, 56, 0x2000200},
         {"read cache only", [](Lab &f) { return f->SetArrayCache(kData, "R"); }, 7, 56, 0x80000000},
@@ -306,6 +316,10 @@ void tst_facade::commandsReachTheDrivers()
         QVERIFY2(!sent.empty(), c.what);
         QVERIFY2(sent.back().u32(0) == c.code, c.what);
         QVERIFY2(sent.back().u32(c.offset) == c.word, c.what);
+        // Every spare command goes out with option 1.
+        if (const std::uint32_t subcode = sent.back().u32(32);
+            c.code == 7 && subcode >= 31906 && subcode <= 31909)
+            QVERIFY2(sent.back().u32(16) == 1u, c.what);
     }
 }
 
@@ -387,6 +401,17 @@ void tst_facade::diskSettingsGoDiskByDisk()
     QVERIFY(f.api->ManageDiskSmart(rescanOnly));
     QCOMPARE(f.sent().size(), std::size_t(5));
     QCOMPARE(f.sent().back().u32(0), 16u);
+
+    // Nothing listed sends nothing; a disk that is gone stops the command before the
+    // rescan, after what was sent for the disks before it.
+    SK_DiskManage none;
+    QVERIFY(!f.api->ManageDiskSmart(none));
+    SK_DiskManage gone = smart;
+    gone.disks[1] = 99;
+    gone.diskCount = 2;
+    QVERIFY(!f.api->ManageDiskSmart(gone));
+    QCOMPARE(f.sent().size(), std::size_t(6));
+    QCOMPARE(f.sent().back().u32(32), SK_DISK_SMART_POLLING_OFF);
 }
 
 void tst_facade::blinkArrayNamesEveryMemberInOneRequest()
