@@ -327,7 +327,7 @@ void addLayoutRows(SK_RaidApi &api, QTreeWidgetItem *arrayRow, const LogicalDriv
         }
         const QString type = latin(shown->Type);
         auto *typeRow = new QTreeWidgetItem(arrayRow, {type + suffix});
-        typeRow->setIcon(0, arrayIcon(type, latin(record.State)));
+        typeRow->setIcon(0, arrayIcon(type, latin(shown->State)));
         addSpareRows(api, typeRow, *shown, id, look);
         addMemberRows(api, typeRow, *shown, arrays, look);
         if (!twoLayouts)
