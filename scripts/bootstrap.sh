@@ -14,9 +14,11 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 jobs=$(nproc 2>/dev/null || echo 2)
+# ccache keys on paths below the clone, so every clone of the project shares its hits.
+export CCACHE_BASEDIR="$root" CCACHE_NOHASHDIR=1
 
 packages=(
-    build-essential cmake ninja-build pkg-config
+    build-essential cmake ninja-build pkg-config ccache
     qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     nlohmann-json3-dev googletest libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth
@@ -26,7 +28,7 @@ packages=(
 # The Windows build of the plain C++ half: MinGW-w64 with POSIX threads (std::mutex and
 # std::thread need them), GoogleTest from its Debian sources, and Wine to run the tests.
 windows_packages=(
-    cmake ninja-build googletest nlohmann-json3-dev
+    cmake ninja-build ccache googletest nlohmann-json3-dev
     g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev
     wine wine64
 )
