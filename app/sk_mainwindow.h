@@ -36,6 +36,10 @@ public:
     SK_RaidApi *api() const { return raidApi; }
     quint32 currentArray() const { return selectedArray; }
 
+signals:
+    // Emitted once a refresh's array list has been handed back and every pane rebuilt.
+    void refreshed();
+
 public slots:
     // Refresh cycle
     void menu_refresh();

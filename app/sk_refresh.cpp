@@ -48,4 +48,5 @@ void SK_MainWindow::handleUpdateArrayList(QList<LogicalDrive *> ArrayList)
         arrayTree->topLevelItem(0)->setExpanded(true);
         expandFirstArray = false;
     }
+    emit refreshed();
 }
