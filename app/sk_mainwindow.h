@@ -160,13 +160,16 @@ private:
     bool confirm(const QString &question);
     void setCacheChecks(QAction *checked);
 
-    // Steps of updateArrayActions, in the order it takes them.
-    void enableForArray(const LogicalDrive &record);
-    void enableForRunningTask(const LogicalDrive &record);
-    void enableForIdleArray(const LogicalDrive &record);
-    void limitForLegacyArray();
-    void limitForTierOrCache();
-    void limitForRoleAndState(const LogicalDrive &record);
+    // The enablement rules' flags read from and shown on the actions and submenus.
+    struct ArrayActionWidget
+    {
+        SK_ArrayAction entry;
+        QAction *action; // either an action
+        QMenu *menu;     // or a submenu
+    };
+    QList<ArrayActionWidget> arrayActionWidgets() const;
+    SK_ArrayActions shownArrayActions() const;
+    void showArrayActions(const SK_ArrayActions &actions);
 
     SK_RaidApi *raidApi = nullptr;
     SK_RaidApi *statsApi = nullptr;

@@ -257,187 +257,93 @@ void SK_MainWindow::ShowContextMenuArrayList(const QPoint &pos)
                    deleteMultipleAct, secureEraseAct});
 }
 
+// The action or submenu behind each entry of the enablement rules; "Cache Arrays"
+// exists only with caching.
+QList<SK_MainWindow::ArrayActionWidget> SK_MainWindow::arrayActionWidgets() const
+{
+    using A = SK_ArrayAction;
+    QList<ArrayActionWidget> widgets = {{A::Transform, transformAct, nullptr},
+                                        {A::RemoveSpares, removeSparesAct, nullptr},
+                                        {A::SecureErase, secureEraseAct, nullptr},
+                                        {A::Delete, deleteAct, nullptr},
+                                        {A::Name, nameAct, nullptr},
+                                        {A::PrepareRemove, prepareRemoveAct, nullptr},
+                                        {A::Hide, hideAct, nullptr},
+                                        {A::Identify, identifyAct, nullptr},
+                                        {A::Priority, priorityAct, nullptr},
+                                        {A::Resume, resumeAct, nullptr},
+                                        {A::Pause, pauseAct, nullptr},
+                                        {A::RemoveTask, removeTaskAct, nullptr},
+                                        {A::ScanStart, scanStartAct, nullptr},
+                                        {A::ScanStop, scanStopAct, nullptr},
+                                        {A::ConsistencyStart, consistencyStartAct, nullptr},
+                                        {A::ConsistencyStop, consistencyStopAct, nullptr},
+                                        {A::ScanMenu, nullptr, scanMenu},
+                                        {A::ConsistencyMenu, nullptr, consistencyMenu},
+                                        {A::CacheMenu, nullptr, cacheMenu},
+                                        {A::TaskMenu, nullptr, taskMenu},
+                                        {A::DeleteMultiple, deleteMultipleAct, nullptr},
+                                        {A::Initialize, initializeAct, nullptr},
+                                        {A::ClearMetadata, clearMetadataAct, nullptr}};
+    if (cacheArraysAct)
+        widgets.append({A::CacheArrays, cacheArraysAct, nullptr});
+    return widgets;
+}
+
+SK_ArrayActions SK_MainWindow::shownArrayActions() const
+{
+    SK_ArrayActions shown;
+    for (const ArrayActionWidget &widget : arrayActionWidgets())
+        shown.setEnabled(widget.entry,
+                         widget.action ? widget.action->isEnabled() : widget.menu->isEnabled());
+    return shown;
+}
+
+void SK_MainWindow::showArrayActions(const SK_ArrayActions &actions)
+{
+    for (const ArrayActionWidget &widget : arrayActionWidgets()) {
+        const bool on = actions.isEnabled(widget.entry);
+        if (widget.action)
+            widget.action->setEnabled(on);
+        else
+            widget.menu->setEnabled(on);
+    }
+}
+
 void SK_MainWindow::disableArrayActions()
 {
-    for (QAction *action :
-         {transformAct, removeSparesAct, secureEraseAct, deleteAct, nameAct, prepareRemoveAct,
-          hideAct, identifyAct, resumeAct, pauseAct, removeTaskAct, scanStartAct, scanStopAct,
-          consistencyStartAct, consistencyStopAct})
-        action->setEnabled(false);
-    scanMenu->setEnabled(false);
-    consistencyMenu->setEnabled(false);
-    cacheMenu->setEnabled(false);
-    initializeAct->setEnabled(raidApi->AnyDiskCanBeInitialized(false));
-    clearMetadataAct->setEnabled(raidApi->AnyDiskCanBeInitialized(true));
+    showArrayActions(baseArrayActions(*raidApi, shownArrayActions()));
 }
 
-// Later steps overrule earlier ones; the order is the rule.
 void SK_MainWindow::updateArrayActions(quint32 array)
 {
-    disableArrayActions();
-    if (arrayList.size() >= 2 && isAdmin)
-        deleteMultipleAct->setEnabled(true);
-
-    const int id = static_cast<int>(array);
-    if (array > 0) {
-        const LogicalDrive *record = raidApi->GetArrayRecord(id, true);
-        if (!record) {
-            if (selectedArray == array)
-                selectedArray = 0;
-            return;
-        }
-        const QString type = QString::fromLatin1(record->Type);
-        const bool special =
-            type == QLatin1String("RAIDTIER") || type == QLatin1String("RAIDCACHE");
-        hideAct->setText(raidApi->ArrayIsHidden(id) ? tr("Un-Hide") : tr("Hide"));
-        deleteAct->setEnabled(true);
-        consistencyMenu->setEnabled(true);
-        scanMenu->setEnabled(true);
-        taskMenu->setEnabled(true);
-        identifyAct->setEnabled(true);
-
-        if (special)
-            hideAct->setEnabled(!raidApi->ArrayHasTask(id));
-        else
-            enableForArray(*record);
-        if (type == QLatin1String("LEGACY"))
-            limitForLegacyArray();
-        if (special)
-            limitForTierOrCache();
-        limitForRoleAndState(*record);
+    SK_ArrayActionContext context;
+    context.array = array;
+    context.arrayCount = arrayList.size();
+    context.admin = isAdmin;
+    context.caching = cacheArraysAct != nullptr;
+    const SK_ArrayActionState state = allowedArrayActions(*raidApi, context, shownArrayActions());
+    showArrayActions(state.actions);
+    if (state.arrayVanished && selectedArray == array)
+        selectedArray = 0;
+    if (state.hideText != SK_HideText::Unchanged)
+        hideAct->setText(state.hideText == SK_HideText::UnHide ? tr("Un-Hide") : tr("Hide"));
+    switch (state.cacheCheck) {
+    case SK_CacheCheck::None:
+        setCacheChecks(cacheNoneAct);
+        break;
+    case SK_CacheCheck::Read:
+        setCacheChecks(cacheReadAct);
+        break;
+    case SK_CacheCheck::Write:
+        setCacheChecks(cacheWriteAct);
+        break;
+    case SK_CacheCheck::ReadWrite:
+        setCacheChecks(cacheReadWriteAct);
+        break;
+    case SK_CacheCheck::Unchanged:
+        break;
     }
-
-    if (!isAdmin) {
-        for (QAction *action :
-             {deleteMultipleAct, deleteAct, secureEraseAct, prepareRemoveAct, hideAct})
-            action->setEnabled(false);
-        if (cacheArraysAct)
-            cacheArraysAct->setEnabled(false);
-    }
-}
-
-// An array of disks: the consistency check and scan always, then what its task allows.
-void SK_MainWindow::enableForArray(const LogicalDrive &record)
-{
-    consistencyStartAct->setEnabled(true);
-    consistencyStopAct->setEnabled(false);
-    consistencyMenu->setEnabled(true);
-    const bool scanning = (record.Attributes & 0x400) != 0;
-    scanStartAct->setEnabled(!scanning);
-    scanStopAct->setEnabled(scanning);
-    if (raidApi->ArrayHasTask(record.Device))
-        enableForRunningTask(record);
-    else
-        enableForIdleArray(record);
-}
-
-// While a task runs it can be paused, resumed or removed (a transform can't be
-// removed), and a check can be stopped; the array itself is left alone.
-void SK_MainWindow::enableForRunningTask(const LogicalDrive &record)
-{
-    priorityAct->setEnabled(true);
-    taskMenu->setEnabled(true);
-    const bool paused = QLatin1String(record.TransformState) == QLatin1String("PAUSED");
-    resumeAct->setEnabled(paused);
-    pauseAct->setEnabled(!paused);
-    removeTaskAct->setEnabled(true);
-    if (QLatin1String(record.TransformType) == QLatin1String("CHECK")) {
-        consistencyStartAct->setEnabled(false);
-        consistencyStopAct->setEnabled(true);
-        consistencyMenu->setEnabled(true);
-    } else {
-        consistencyMenu->setEnabled(false);
-    }
-    if (QLatin1String(record.TransformType) == QLatin1String("TRANSFORM"))
-        removeTaskAct->setEnabled(false);
-    transformAct->setEnabled(false);
-    removeSparesAct->setEnabled(false);
-    nameAct->setEnabled(false);
-    scanMenu->setEnabled(false);
-    cacheMenu->setEnabled(false);
-}
-
-// An idle array can be changed in every way; its cache entry shows the current policy.
-void SK_MainWindow::enableForIdleArray(const LogicalDrive &record)
-{
-    resumeAct->setEnabled(false);
-    pauseAct->setEnabled(false);
-    removeTaskAct->setEnabled(false);
-    taskMenu->setEnabled(false);
-    transformAct->setEnabled(true);
-    secureEraseAct->setEnabled(true);
-    hideAct->setEnabled(true);
-    prepareRemoveAct->setEnabled(true);
-    nameAct->setEnabled(true);
-    removeSparesAct->setEnabled(record.SpareCount > 0);
-    cacheMenu->setEnabled(true);
-    const QString cache = QString::fromLatin1(record.Cache);
-    const QList<QPair<QString, QAction *>> checks = {{QStringLiteral("NC"), cacheNoneAct},
-                                                     {QStringLiteral("R"), cacheReadAct},
-                                                     {QStringLiteral("W"), cacheWriteAct},
-                                                     {QStringLiteral("RW"), cacheReadWriteAct}};
-    for (const auto &check : checks) {
-        if (check.first == cache)
-            setCacheChecks(check.second);
-    }
-}
-
-// A legacy array is only looked after, never reshaped, checked or erased.
-void SK_MainWindow::limitForLegacyArray()
-{
-    consistencyMenu->setEnabled(false);
-    consistencyStartAct->setEnabled(false);
-    consistencyStopAct->setEnabled(false);
-    removeSparesAct->setEnabled(false);
-    transformAct->setEnabled(false);
-    secureEraseAct->setEnabled(false);
-    cacheMenu->setEnabled(false);
-}
-
-// A tier or cache pair can only be renamed, hidden or deleted.
-void SK_MainWindow::limitForTierOrCache()
-{
-    disableArrayActions();
-    for (QMenu *sub : {scanMenu, consistencyMenu, cacheMenu, taskMenu})
-        sub->setEnabled(false);
-    prepareRemoveAct->setEnabled(false);
-    identifyAct->setEnabled(false);
-    nameAct->setEnabled(true);
-    hideAct->setEnabled(true);
-    deleteAct->setEnabled(true);
-}
-
-// What the array's place and state forbid: a part of a tier or the system array stays,
-// a plain array has nothing to check, a critical one isn't checked, an offline one
-// takes no change, and an array on the system disk can't be prepared for removal.
-void SK_MainWindow::limitForRoleAndState(const LogicalDrive &record)
-{
-    const int id = record.Device;
-    auto disable = [](std::initializer_list<QAction *> actions) {
-        for (QAction *action : actions)
-            action->setEnabled(false);
-    };
-    if (raidApi->ArrayIsTierPart(id))
-        disable({deleteAct, hideAct, prepareRemoveAct, secureEraseAct});
-    if (raidApi->ArrayIsSystem(id))
-        disable({deleteAct, hideAct, prepareRemoveAct, secureEraseAct});
-    if (!raidApi->ArrayIsRedundant(id)) {
-        consistencyMenu->setEnabled(false);
-        disable({consistencyStartAct, consistencyStopAct, removeSparesAct});
-    }
-    const QString state = QString::fromLatin1(record.State);
-    if (state == QLatin1String("CRITICAL")) {
-        consistencyStartAct->setEnabled(false);
-    } else if (state == QLatin1String("OFFLINE")) {
-        disable({transformAct, removeSparesAct, secureEraseAct, nameAct, prepareRemoveAct, hideAct,
-                 identifyAct, resumeAct, pauseAct, removeTaskAct, scanStartAct, scanStopAct,
-                 consistencyStartAct, consistencyStopAct});
-        scanMenu->setEnabled(false);
-        consistencyMenu->setEnabled(false);
-        cacheMenu->setEnabled(false);
-    }
-    if (prepareRemoveAct->isEnabled() && raidApi->ArrayUsesSystemDisk(id))
-        prepareRemoveAct->setEnabled(false);
 }
 
 void SK_MainWindow::setCacheChecks(QAction *checked)

@@ -3,5 +3,6 @@
 
 #include "service/sk_apiworker.h"
 #include "service/sk_applog.h"
+#include "service/sk_arrayactions.h"
 #include "service/sk_raidapi.h"
 #include "service/sk_records.h"

@@ -124,7 +124,7 @@ void tst_MainWindow::panesShowTheConfiguration()
 void tst_MainWindow::enablementFollowsTheSelectedArray_data()
 {
     QTest::addColumn<int>("array");
-    QTest::addColumn<QString>("state"); // "running": a check runs; "user": without rights
+    QTest::addColumn<QString>("state"); // "user": without rights
     QTest::addColumn<QStringList>("enabled");
     QTest::addColumn<QStringList>("disabled");
 
@@ -133,14 +133,6 @@ void tst_MainWindow::enablementFollowsTheSelectedArray_data()
         << QStringList{"transformAct",     "nameAct",   "hideAct",        "identifyAct",
                        "prepareRemoveAct", "deleteAct", "secureEraseAct", "consistencyStartAct"}
         << QStringList{"resumeAct", "pauseAct", "removeTaskAct", "consistencyStopAct"};
-    QTest::newRow("the system array can't be deleted or hidden")
-        << kSystem << "" << QStringList{"transformAct", "nameAct"}
-        << QStringList{"deleteAct", "hideAct", "prepareRemoveAct", "secureEraseAct"};
-    QTest::newRow("a running check offers its stop and the task entries")
-        << kData << "running"
-        << QStringList{"consistencyStopAct", "pauseAct", "removeTaskAct", "identifyAct",
-                       "deleteAct"}
-        << QStringList{"transformAct", "consistencyStartAct", "resumeAct", "nameAct"};
     QTest::newRow("without rights the destructive entries stay off")
         << kData << "user" << QStringList{"transformAct", "nameAct"}
         << QStringList{"deleteAct", "secureEraseAct", "prepareRemoveAct", "hideAct",
@@ -165,11 +157,6 @@ void tst_MainWindow::enablementFollowsTheSelectedArray()
     QCOMPARE(rights.contains(QStringLiteral("Please run application as Administrator.")),
              state == QLatin1String("user"));
     waitForArrays(window, 2);
-    if (state == QLatin1String("running")) {
-        QVERIFY(window.api()->CheckArray(array));
-        window.menu_refresh();
-        waitForArrays(window, 2);
-    }
     QVERIFY(pickArray(window, array));
     expectActions(&window, enabled, disabled);
 }
