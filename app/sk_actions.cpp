@@ -342,7 +342,7 @@ void SK_MainWindow::prepareRemoveFinished(int returnCode)
         box.exec();
     };
     switch (returnCode) {
-    case 1:
+    case SK_REMOVAL_READY:
         selectedArray = 0;
         inform(tr("Array Removal"),
                label +
@@ -351,12 +351,12 @@ void SK_MainWindow::prepareRemoveFinished(int returnCode)
                       "that no DISK RESCANs be performed until all of the disks in the array have "
                       "been disconnected"));
         break;
-    case 3:
-    case -9:
+    case SK_REMOVAL_REFUSED:
+    case SK_REMOVAL_SHARED_DISK:
         inform(tr("Operation Failed"), tr("There is an overlap between the selected array and "
                                           "another array. Operation canceled."));
         break;
-    case -10:
+    case SK_REMOVAL_VOLUME_IN_USE:
         QMessageBox::warning(this,
                              QStringLiteral("Problem Ejecting VOR Array ") +
                                  QString::number(selectedArray) + QStringLiteral(" SCSI Device"),

@@ -6,3 +6,4 @@
 #include "service/sk_arrayactions.h"
 #include "service/sk_raidapi.h"
 #include "service/sk_records.h"
+#include "service/sk_results.h"

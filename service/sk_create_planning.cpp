@@ -66,40 +66,7 @@ const QList<QString> createErrorList = withNewlines({
 
 namespace {
 
-// The create verdicts that CreateArray raises; the rest of the table is the dialog's
-// or nobody's.
-enum CreateVerdict {
-    TooManyArrays = -100,
-    SizeTooSmall = -99,
-    SkipInitWithZero = -98,
-    LeaveDataWithZero = -97,
-    NoDisks = -96,
-    SubMemberNotAvailable = -92,
-    SkipInitNotAvailable = -91,
-    VolumeTooMany = -90,
-    RaidableNotOne = -89,
-    Raid0Count = -87,
-    Raid1Count = -86,
-    Raid1nTooFew = -85,
-    Raid1nTooMany = -84,
-    Raid10Count = -82,
-    Raid10nTooFew = -79,
-    Raid10nSubCount = -78,
-    Raid5TooFew = -75,
-    Raid5TooMany = -74,
-    TierWithDisks = -72,
-    TierWithoutArrays = -71,
-    Raid6TooFew = -69,
-    Raid6TooMany = -68,
-    Raid50TooFew = -65,
-    Raid50SubMember = -64,
-    Raid60TooFew = -61,
-    NoType = -59,
-    DiskNotUsable = -58,
-    SmartErrors = -57,
-    LevelDisabled = -56,
-    NoMaximum = -55,
-};
+using namespace SK_CreateVerdict;
 
 constexpr int kMaxArraysBeforeCreate = 11;
 constexpr qint32 kSmallestSize = 100;

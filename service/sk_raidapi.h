@@ -6,6 +6,7 @@
 // dialog and worker makes its own and drops it at will.
 
 #include "service/sk_records.h"
+#include "service/sk_results.h"
 
 #include <QList>
 #include <QObject>
@@ -165,9 +166,9 @@ public:
     bool GetVolumeDeviceNumber(QChar letter, quint32 &deviceNumber) const;
     bool FindMatchingDeviceInstance(quint32 deviceNumber, quint32 &instance) const;
     bool LockAndDismountvolume(QChar letter) const;
-    int RequestDeviceEject(QChar letter) const;
-    int DismountAndEject(QChar letter) const;
-    int PrepareArrayRemoval(int arrayId);
+    SK_RemovalResult RequestDeviceEject(QChar letter) const;
+    SK_RemovalResult DismountAndEject(QChar letter) const;
+    SK_RemovalResult PrepareArrayRemoval(int arrayId);
 
     // --- SMART ---
     SmartSummary GetSmartInfo(int diskId);

@@ -167,7 +167,7 @@ bool SK_RaidApi::LockAndDismountvolume(QChar letter) const
     return false;
 }
 
-int SK_RaidApi::RequestDeviceEject(QChar letter) const
+SK_RemovalResult SK_RaidApi::RequestDeviceEject(QChar letter) const
 {
     RemovalLog log;
     // Without a device number the attempts still go out, for device instance 0: the
@@ -177,7 +177,7 @@ int SK_RaidApi::RequestDeviceEject(QChar letter) const
         if (!FindMatchingDeviceInstance(deviceNumber, instance)) {
             qCritical("Failed to FindMatchingDeviceInstance()");
             log.line(QStringLiteral("Failed to FindMatchingDeviceInstance(): ") + letter);
-            return -100;
+            return SK_REMOVAL_NO_DEVICE_INSTANCE;
         }
         qDebug("Found Matching Device Instance");
     }
@@ -185,7 +185,7 @@ int SK_RaidApi::RequestDeviceEject(QChar letter) const
         const SK_EjectAnswer answer = systemView().requestDeviceEject(instance);
         if (answer.ejected) {
             log.line(QStringLiteral("Success! Completed Windows device eject."));
-            return 1;
+            return SK_REMOVAL_READY;
         }
         const QString head =
             QStringLiteral("Request Windows device eject - Attempt ") + QString::number(attempt);
@@ -202,37 +202,37 @@ int SK_RaidApi::RequestDeviceEject(QChar letter) const
     }
     log.line(QStringLiteral("Unable to complete optional Windows device eject call - continuing "
                             "prepare to remove operation."));
-    return -101;
+    return SK_REMOVAL_EJECT_FAILED;
 }
 
-int SK_RaidApi::DismountAndEject(QChar letter) const
+SK_RemovalResult SK_RaidApi::DismountAndEject(QChar letter) const
 {
     if (!LockAndDismountvolume(letter))
-        return -10;
+        return SK_REMOVAL_VOLUME_IN_USE;
     return RequestDeviceEject(letter);
 }
 
-int SK_RaidApi::PrepareArrayRemoval(int arrayId)
+SK_RemovalResult SK_RaidApi::PrepareArrayRemoval(int arrayId)
 {
     RemovalLog log;
     const QString subject = QStringLiteral("PrepareArrayRemoval(%1): ").arg(arrayId);
     const SK_ConfigArray *array = GetArrayRecord(arrayId, true);
     if (!array) {
         log.line(subject + QStringLiteral("no such array"));
-        return 3;
+        return SK_REMOVAL_REFUSED;
     }
     // A disk shared with another array would take that array down as well.
     if (ArrayHasSharedDisk(arrayId)) {
         log.line(subject + QStringLiteral("a member disk is shared with another array"));
-        return -9;
+        return SK_REMOVAL_SHARED_DISK;
     }
     if (ArrayIsSystem(arrayId)) {
         log.line(subject + QStringLiteral("the array holds the system drive"));
-        return 3;
+        return SK_REMOVAL_REFUSED;
     }
     if (ArrayHasTask(arrayId) || array->ReferenceCount != 0) {
         log.line(subject + QStringLiteral("the array is busy"));
-        return 3;
+        return SK_REMOVAL_REFUSED;
     }
 
     // What the later steps need, taken now: the hide re-reads the picture.
@@ -248,8 +248,8 @@ int SK_RaidApi::PrepareArrayRemoval(int arrayId)
     // Only the first volume of the array is taken down.
     const QString letters = DriveLetters(arrayId);
     if (!letters.isEmpty()) {
-        const int ejected = DismountAndEject(letters.at(0));
-        if (ejected == -10 || ejected == -100)
+        const SK_RemovalResult ejected = DismountAndEject(letters.at(0));
+        if (ejected == SK_REMOVAL_VOLUME_IN_USE || ejected == SK_REMOVAL_NO_DEVICE_INSTANCE)
             return ejected;
     }
 
@@ -257,7 +257,7 @@ int SK_RaidApi::PrepareArrayRemoval(int arrayId)
     if (!ArrayIsHidden(arrayId) && !legacy) {
         if (!HideArray(arrayId)) {
             log.line(subject + QStringLiteral("the array could not be hidden"));
-            return 3;
+            return SK_REMOVAL_REFUSED;
         }
         hiddenHere = true;
     }
@@ -277,11 +277,11 @@ int SK_RaidApi::PrepareArrayRemoval(int arrayId)
 
     if (SK_ApiOfflineLogicalDevice(Channel(), 1, &arrayName, 0, 0) == SK_STS_SUCCESS) {
         log.line(subject + QStringLiteral("the array is ready to be removed"));
-        return 1;
+        return SK_REMOVAL_READY;
     }
     log.line(subject + QStringLiteral("the driver refused to take the array offline"));
     if (!hiddenHere)
-        return 3;
+        return SK_REMOVAL_REFUSED;
     // Give the array back as it was found, unless it changed meanwhile.
     RefreshConfig();
     const SK_ConfigArray *now = GetArrayRecord(arrayId, true);
@@ -292,5 +292,5 @@ int SK_RaidApi::PrepareArrayRemoval(int arrayId)
             log.line(subject + QStringLiteral("the array is shown again"));
         }
     }
-    return 3;
+    return SK_REMOVAL_REFUSED;
 }

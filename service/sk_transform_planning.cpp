@@ -46,27 +46,7 @@ const QList<QString> transformErrorList = withNewlines({
 
 namespace {
 
-enum TransformVerdict {
-    ArrayNotFound = -100,
-    SizeTooSmall = -99,
-    NoDisks = -98,
-    VolumeTooMany = -91,
-    RaidableNotOne = -90,
-    Raid0Count = -88,
-    Raid1Count = -87,
-    Raid1nTooFew = -86,
-    Raid1nTooMany = -85,
-    Raid10Count = -84,
-    Raid10nTooFew = -82,
-    Raid10nSubMember = -80,
-    Raid5TooFew = -79,
-    Raid5TooMany = -78,
-    Raid6Count = -76,
-    NoType = -73,
-    DiskNotUsable = -72,
-    SmartErrors = -71,
-    NoMaximum = -69,
-};
+using namespace SK_TransformVerdict;
 
 constexpr int kHighestArrayId = 24;
 // Offset in a transform info reply of the largest size the driver offers (u64, MiB).

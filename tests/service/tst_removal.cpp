@@ -90,6 +90,8 @@ const QString kInUse =
 
 } // namespace
 
+Q_DECLARE_METATYPE(SK_RemovalResult)
+
 class tst_removal : public QObject
 {
     Q_OBJECT
@@ -120,16 +122,17 @@ void tst_removal::prepareArrayRemoval_data()
     QTest::addColumn<QString>("array");
     QTest::addColumn<ModelChange>("change");
     QTest::addColumn<bool>("offlineRefused");
-    QTest::addColumn<int>("result");
+    QTest::addColumn<SK_RemovalResult>("result");
     QTest::addColumn<QStringList>("lines");
     QTest::addColumn<QString>("after"); // "hidden", "offline", "marked": what Data is then
 
     const ModelChange none = [](sk_emu::Model &) {};
 
     QTest::newRow("a data array is dismounted, ejected, hidden, marked and taken offline")
-        << kDataArray << none << false << 1 << QStringList{kEjected} << kRemoved;
+        << kDataArray << none << false << SK_REMOVAL_READY << QStringList{kEjected} << kRemoved;
     QTest::newRow("an unknown array is refused")
-        << QStringLiteral("Nothing") << none << false << 3 << QStringList{} << kUntouched;
+        << QStringLiteral("Nothing") << none << false << SK_REMOVAL_REFUSED << QStringList{}
+        << kUntouched;
     QTest::newRow("a disk shared with another array is refused before any dismount")
         << kDataArray << ModelChange([](sk_emu::Model &m) {
                sk_emu::Array scratch = arrayNamed(m, kDataArray);
@@ -142,29 +145,29 @@ void tst_removal::prepareArrayRemoval_data()
                // Were the volume touched, the lock would fail and say so.
                volume(m, 'D').inUse = true;
            })
-        << false << -9 << QStringList{} << kUntouched;
+        << false << SK_REMOVAL_SHARED_DISK << QStringList{} << kUntouched;
     QTest::newRow("the system array is refused although its volume is in use")
-        << kSystemArray << none << false << 3 << QStringList{} << kUntouched;
+        << kSystemArray << none << false << SK_REMOVAL_REFUSED << QStringList{} << kUntouched;
     QTest::newRow("an array with a running check is refused")
         << kDataArray << ModelChange([](sk_emu::Model &m) {
                sk_emu::Array &data = arrayNamed(m, kDataArray);
                data.task.type = sk_emu::code::TaskCheck;
                data.task.state = sk_emu::code::TaskStarted;
            })
-        << false << 3 << QStringList{} << kUntouched;
+        << false << SK_REMOVAL_REFUSED << QStringList{} << kUntouched;
     QTest::newRow("a volume in use stops the removal")
         << kDataArray << ModelChange([](sk_emu::Model &m) { volume(m, 'D').inUse = true; }) << false
-        << -10 << QStringList{kInUse} << kUntouched;
+        << SK_REMOVAL_VOLUME_IN_USE << QStringList{kInUse} << kUntouched;
     QTest::newRow("a disk device missing from the device list stops the removal")
         << kDataArray << ModelChange([](sk_emu::Model &m) { volume(m, 'D').unlisted = true; })
-        << false << -100
+        << false << SK_REMOVAL_NO_DEVICE_INSTANCE
         << QStringList{QStringLiteral("Unable to get disk devices: 259"),
                        QStringLiteral("Failed to FindMatchingDeviceInstance(): D")}
         << kUntouched;
     QTest::newRow("three vetoed ejects are logged and the removal goes on")
         << kDataArray
         << ModelChange([](sk_emu::Model &m) { volume(m, 'D').ejectVeto = kVeto.toStdString(); })
-        << false << 1
+        << false << SK_REMOVAL_READY
         << QStringList{attempt(1, " Vetoed by:" + kVeto), attempt(2, " Vetoed by:" + kVeto),
                        attempt(3, " Vetoed by:" + kVeto), kOptional}
         << kRemoved;
@@ -173,17 +176,17 @@ void tst_removal::prepareArrayRemoval_data()
                volume(m, 'D').ejectVeto = kVeto.toStdString();
                volume(m, 'D').ejectVetoes = 2;
            })
-        << false << 1
+        << false << SK_REMOVAL_READY
         << QStringList{attempt(1, " Vetoed by:" + kVeto), attempt(2, " Vetoed by:" + kVeto),
                        kEjected}
         << kRemoved;
     QTest::newRow("ejects failing without a veto are logged without a reason")
         << kDataArray << ModelChange([](sk_emu::Model &m) { volume(m, 'D').ejectError = 21; })
-        << false << 1 << QStringList{attempt(1, ""), attempt(2, ""), attempt(3, ""), kOptional}
-        << kRemoved;
+        << false << SK_REMOVAL_READY
+        << QStringList{attempt(1, ""), attempt(2, ""), attempt(3, ""), kOptional} << kRemoved;
     QTest::newRow("without a device number the ejects go out for no device and fail")
         << kDataArray << ModelChange([](sk_emu::Model &m) { volume(m, 'D').noDeviceNumber = true; })
-        << false << 1
+        << false << SK_REMOVAL_READY
         << QStringList{QStringLiteral("Failed to get storage device number: 1"), attempt(1, ""),
                        attempt(2, ""), attempt(3, ""), kOptional}
         << kRemoved;
@@ -194,14 +197,14 @@ void tst_removal::prepareArrayRemoval_data()
                                   [](const sk_emu::Volume &v) { return v.letter == 'D'; }),
                    m.volumes.end());
            })
-        << false << 1 << QStringList{} << kRemoved;
+        << false << SK_REMOVAL_READY << QStringList{} << kRemoved;
     QTest::newRow("a refused offline shows the array hidden by this removal again")
-        << kDataArray << none << true << 3 << QStringList{kEjected} << "marked";
+        << kDataArray << none << true << SK_REMOVAL_REFUSED << QStringList{kEjected} << "marked";
     QTest::newRow("a refused offline leaves an array hidden before as it was")
         << kDataArray << ModelChange([](sk_emu::Model &m) {
                arrayNamed(m, kDataArray).attributes |= sk_emu::code::AttributeHidden;
            })
-        << true << 3 << QStringList{} << "hidden marked";
+        << true << SK_REMOVAL_REFUSED << QStringList{} << "hidden marked";
 }
 
 void tst_removal::prepareArrayRemoval()
@@ -209,7 +212,7 @@ void tst_removal::prepareArrayRemoval()
     QFETCH(QString, array);
     QFETCH(ModelChange, change);
     QFETCH(bool, offlineRefused);
-    QFETCH(int, result);
+    QFETCH(SK_RemovalResult, result);
     QFETCH(QStringList, lines);
     QFETCH(QString, after);
 
