@@ -62,14 +62,14 @@ void SK_MainWindow::createForm()
                            tr("The total number of arrays is limited to ") +
                                QString::number(kArrayLimit) + QStringLiteral("."));
     } else {
-        runDialog(new SK_CreateDialog(iconSize, this), tr("Create"));
+        runDialog(new SK_CreateDialog(*raidApi, iconSize, this), tr("Create"));
     }
     menu_refresh();
 }
 
 void SK_MainWindow::transform_Form()
 {
-    runDialog(new SK_TransformDialog(static_cast<int>(selectedArray), iconSize, this),
+    runDialog(new SK_TransformDialog(*raidApi, static_cast<int>(selectedArray), iconSize, this),
               tr("Transform"));
     menu_refresh();
 }
@@ -83,7 +83,7 @@ void SK_MainWindow::initTiering_Form()
                            tr("The total number of arrays is limited to ") +
                                QString::number(kArrayLimit) + QStringLiteral("."));
     } else {
-        runDialog(new SK_TieringDialog(this), tr("Caching"));
+        runDialog(new SK_TieringDialog(*raidApi, this), tr("Caching"));
     }
     menu_refresh();
 }
@@ -92,14 +92,14 @@ void SK_MainWindow::taskPriority_Form()
 {
     const int id = static_cast<int>(selectedArray);
     if (id >= 1 && raidApi->ArrayHasTask(id))
-        runDialog(new SK_TaskPriorityDialog(selectedArray, this), tr("Task Priority"));
+        runDialog(new SK_TaskPriorityDialog(*raidApi, selectedArray, this), tr("Task Priority"));
     menu_refresh();
 }
 
 void SK_MainWindow::renameArray()
 {
     if (selectedArray > 0)
-        runDialog(new SK_ArrayNameDialog(selectedArray, this), tr("Array Name"));
+        runDialog(new SK_ArrayNameDialog(*raidApi, selectedArray, this), tr("Array Name"));
     menu_refresh();
 }
 
@@ -111,7 +111,7 @@ void SK_MainWindow::deleteMultipleArrays()
         return;
     refreshTimer->stop();
     statsTimer->stop();
-    runDialog(new SK_DeleteForm(this), tr("Delete"));
+    runDialog(new SK_DeleteForm(*raidApi, this), tr("Delete"));
     statsTimer->start(statusInterval);
     refreshTimer->start(refreshInterval);
     menu_refresh();
@@ -375,7 +375,7 @@ void SK_MainWindow::diskDoubleClicked(QTreeWidgetItem *item, int)
 {
     if (item) {
         auto *dialog =
-            new SK_diskSpareDialog(item->text(0), item->text(10),
+            new SK_diskSpareDialog(*raidApi, item->text(0), item->text(10),
                                    item->data(0, Qt::UserRole).toUInt(), selectedArray, this);
         runDialog(dialog, tr("Options"));
     }
@@ -395,7 +395,8 @@ void SK_MainWindow::initDisks_Form()
 {
     if (!rightsCheck())
         return;
-    if (runDialog(new SK_initDisksDialog(this), tr("Initialize Disks")) == QDialog::Accepted)
+    if (runDialog(new SK_initDisksDialog(*raidApi, this), tr("Initialize Disks")) ==
+        QDialog::Accepted)
         selectedArray = 0;
     menu_refresh();
 }
@@ -404,26 +405,27 @@ void SK_MainWindow::clearMetadata_Form()
 {
     if (!rightsCheck())
         return;
-    if (runDialog(new SK_ClearMetadataDialog(this), tr("Clear Metadata")) == QDialog::Accepted)
+    if (runDialog(new SK_ClearMetadataDialog(*raidApi, this), tr("Clear Metadata")) ==
+        QDialog::Accepted)
         selectedArray = 0;
     menu_refresh();
 }
 
 void SK_MainWindow::diskProperties_Form()
 {
-    runDialog(new SK_DiskProperites(this), tr("Properties"));
+    runDialog(new SK_DiskProperites(*raidApi, this), tr("Properties"));
     menu_refresh();
 }
 
 void SK_MainWindow::smartDiskOverview_Form()
 {
-    runDialog(new SK_SmartDiskDialog(this), tr("S.M.A.R.T. Overview"));
+    runDialog(new SK_SmartDiskDialog(*raidApi, this), tr("S.M.A.R.T. Overview"));
     menu_refresh();
 }
 
 void SK_MainWindow::viewControllers_Form()
 {
-    runDialog(new sk_ControllerProperties(this), tr("Controllers"));
+    runDialog(new sk_ControllerProperties(*raidApi, this), tr("Controllers"));
     menu_refresh();
 }
 

@@ -122,7 +122,8 @@ void SK_MainWindow::pollEvents()
         }
         if (wantNotice && notifyCode >= 1 && notifyArmed) {
             notifyArmed = false;
-            auto *notice = new Sk_insertRemoveDialog(static_cast<quint32>(notifyCode), this);
+            auto *notice =
+                new Sk_insertRemoveDialog(*raidApi, static_cast<quint32>(notifyCode), this);
             notice->setObjectName(QStringLiteral("insertRemoveNotice"));
             notice->setModal(true);
             notice->setWindowTitle(tr("Event Notification"));

@@ -71,7 +71,7 @@ QString SK_CopyHelpDocument(const QString &resource, const QString &file)
 
 void SK_MainWindow::about()
 {
-    auto *dialog = new SK_AboutDialog(this, QString::fromLatin1(SK_VersionText));
+    auto *dialog = new SK_AboutDialog(*raidApi, this, QString::fromLatin1(SK_VersionText));
     dialog->setModal(true);
     dialog->setWindowTitle(tr("About ") + QCoreApplication::applicationName());
     dialog->setWindowFlags(dialog->windowFlags() & ~Qt::WindowContextHelpButtonHint);

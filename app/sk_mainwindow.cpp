@@ -17,7 +17,6 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QThread>
 #include <QTreeWidget>
 
 namespace {
@@ -78,14 +77,10 @@ SK_MainWindow::SK_MainWindow(QWidget *parent)
     createPanes();
     layOutPanes();
 
-    // The statistics instance lives on a thread that never runs: its calls execute on
-    // the GUI thread, and its signal arrives there directly.
-    auto *statsThread = new QThread(this);
-    statsThread->setObjectName(QStringLiteral("statsThread"));
+    // The statistics are read on the GUI thread by an instance of their own, whose
+    // signal arrives here directly.
     statsApi = new SK_RaidApi;
-    statsApi->moveToThread(statsThread);
     connect(statsApi, &SK_RaidApi::StatsRetrieved, this, &SK_MainWindow::updateStatusBar);
-    connect(statsThread, &QObject::destroyed, statsApi, &QObject::deleteLater);
 
     statsTimer = new QTimer(this);
     statsTimer->setObjectName(QStringLiteral("statsTimer"));

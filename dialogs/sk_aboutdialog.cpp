@@ -31,10 +31,11 @@ QString packageVersion(const QString &buildString)
 
 } // namespace
 
-SK_AboutDialog::SK_AboutDialog(QWidget *parent, const QString &buildString)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_AboutDialog>())
+SK_AboutDialog::SK_AboutDialog(SK_RaidApi &service, QWidget *parent, const QString &buildString)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_AboutDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     ui->appVersionlabel->setText(tr("Application Version:"));
     ui->skraidLabel->setText(tr("skraid.sys:"));

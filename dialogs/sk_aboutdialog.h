@@ -18,7 +18,8 @@ class SK_AboutDialog : public QDialog
 public:
     // `buildString` is the program's major.minor.patch-build text; empty takes the
     // application's version.
-    explicit SK_AboutDialog(QWidget *parent = nullptr, const QString &buildString = QString());
+    SK_AboutDialog(SK_RaidApi &service, QWidget *parent = nullptr,
+                   const QString &buildString = QString());
     ~SK_AboutDialog() override;
 
     // The version as the box shows it for a program run from `appDir`: the build string
@@ -27,6 +28,6 @@ public:
     static QString displayedVersion(const QString &buildString, const QString &appDir);
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_AboutDialog> ui;
 };

@@ -7,10 +7,11 @@
 #include <QIcon>
 #include <QMessageBox>
 
-SK_ArrayNameDialog::SK_ArrayNameDialog(quint32 array, QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()), arrayId(array),
-      ui(std::make_unique<Ui::SK_ArrayNameDialog>())
+SK_ArrayNameDialog::SK_ArrayNameDialog(SK_RaidApi &service, quint32 array, QWidget *parent)
+    : QDialog(parent), api(&service), arrayId(array), ui(std::make_unique<Ui::SK_ArrayNameDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     ui->arrayNameLabel->setText(tr("Enter an array name of up to 30 characters."));

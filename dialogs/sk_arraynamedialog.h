@@ -15,7 +15,7 @@ class SK_ArrayNameDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_ArrayNameDialog(quint32 arrayId, QWidget *parent = nullptr);
+    SK_ArrayNameDialog(SK_RaidApi &service, quint32 arrayId, QWidget *parent = nullptr);
     ~SK_ArrayNameDialog() override;
 
 public slots:
@@ -24,7 +24,7 @@ public slots:
     void on_cancelButton_clicked();
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     quint32 arrayId = 0;
     std::unique_ptr<Ui::SK_ArrayNameDialog> ui;
 };

@@ -14,10 +14,11 @@ constexpr char kGeometryKey[] = "clearMetaWindowGeometry";
 constexpr char kHeaderKey[] = "clearMetaListHeaderState";
 } // namespace
 
-SK_ClearMetadataDialog::SK_ClearMetadataDialog(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_ClearMetadataDialog>())
+SK_ClearMetadataDialog::SK_ClearMetadataDialog(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_ClearMetadataDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setupClearMetadataMenu();
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));

@@ -19,7 +19,7 @@ class SK_ClearMetadataDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_ClearMetadataDialog(QWidget *parent = nullptr);
+    SK_ClearMetadataDialog(SK_RaidApi &service, QWidget *parent = nullptr);
     ~SK_ClearMetadataDialog() override;
 
 public slots:
@@ -31,6 +31,6 @@ public slots:
     void on_clearMetaButton_clicked();
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_ClearMetadataDialog> ui;
 };

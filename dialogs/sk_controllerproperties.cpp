@@ -50,10 +50,11 @@ void setCell(QTreeWidgetItem *row, int column, const QString &text)
 
 } // namespace
 
-sk_ControllerProperties::sk_ControllerProperties(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::sk_ControllerProperties>())
+sk_ControllerProperties::sk_ControllerProperties(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::sk_ControllerProperties>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     ui->controllerLabel->setText(tr("Controller List:"));

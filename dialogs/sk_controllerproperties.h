@@ -15,7 +15,7 @@ class sk_ControllerProperties : public QDialog
     Q_OBJECT
 
 public:
-    explicit sk_ControllerProperties(QWidget *parent = nullptr);
+    sk_ControllerProperties(SK_RaidApi &service, QWidget *parent = nullptr);
     ~sk_ControllerProperties() override;
 
 public slots:
@@ -23,6 +23,6 @@ public slots:
     void on_okPushButton_clicked();
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::sk_ControllerProperties> ui;
 };

@@ -29,7 +29,7 @@ const char *const kHeaderKey = "createDiskListHeaderState";
 
 } // namespace
 
-SK_CreateDialog::SK_CreateDialog(QSize size, QWidget *parent)
+SK_CreateDialog::SK_CreateDialog(SK_RaidApi &service, QSize size, QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::SK_CreateDialog>()), iconSize(size)
 {
     volumeLabel = tr("Volume  (JBOD)");
@@ -39,7 +39,9 @@ SK_CreateDialog::SK_CreateDialog(QSize size, QWidget *parent)
     raid5Label = tr("RAID 5   (Stripe with Parity)");
     raid6Label = tr("RAID 6   (Stripe with 2 Parities)");
     ui->setupUi(this);
-    api = std::make_unique<SK_RaidApi>();
+    // Opening a dialog reads the configuration afresh.
+    api = &service;
+    api->RefreshConfig();
     fillCombos();
     initCreateDiskList();
     initCreateForm();

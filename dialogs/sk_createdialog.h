@@ -22,7 +22,7 @@ class SK_CreateDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_CreateDialog(QSize iconSize, QWidget *parent = nullptr);
+    SK_CreateDialog(SK_RaidApi &service, QSize iconSize, QWidget *parent = nullptr);
     ~SK_CreateDialog() override;
 
 private slots:
@@ -56,7 +56,7 @@ private:
     // Sets every row's check mark by `wanted(diskId)` and judges the new selection once.
     void checkDisksWhere(const std::function<bool(int)> &wanted);
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_CreateDialog> ui;
     QSize iconSize;
     QString selectedDiskText;

@@ -26,10 +26,11 @@ QString latin(const char *field)
 
 } // namespace
 
-SK_DeleteForm::SK_DeleteForm(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_DeleteForm>())
+SK_DeleteForm::SK_DeleteForm(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_DeleteForm>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setupDelArrayMenu();
     SK_DiskDialogParts::restoreWindowState(this, ui->arrayList, kGeometryKey, kHeaderKey);

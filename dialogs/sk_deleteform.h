@@ -19,7 +19,7 @@ class SK_DeleteForm : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_DeleteForm(QWidget *parent = nullptr);
+    SK_DeleteForm(SK_RaidApi &service, QWidget *parent = nullptr);
     ~SK_DeleteForm() override;
 
 signals:
@@ -38,7 +38,7 @@ public slots:
     void UpdateDeleteProgress();
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_DeleteForm> ui;
     QProgressDialog *deleteProgress = nullptr;
 };

@@ -34,10 +34,11 @@ bool isSmartCommand(diskManageCMD command)
 
 } // namespace
 
-SK_DiskProperites::SK_DiskProperites(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_DiskProperites>())
+SK_DiskProperites::SK_DiskProperites(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_DiskProperites>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     ui->splitter->setSizes({80, 70});
     setupDiskPropsMenu();

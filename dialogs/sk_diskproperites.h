@@ -20,7 +20,7 @@ class SK_DiskProperites : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_DiskProperites(QWidget *parent = nullptr);
+    SK_DiskProperites(SK_RaidApi &service, QWidget *parent = nullptr);
     ~SK_DiskProperites() override;
 
 public slots:
@@ -43,7 +43,7 @@ private:
     // Sends the command, keeps the ticks, and redraws the list when it worked.
     void runCommand(diskManageCMD command);
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     // Ticks are kept by the disk's port label, across redraws.
     QStringList selectedDisks{QString()};
     bool firstFill = true;

@@ -6,13 +6,16 @@
 #include <QIcon>
 #include <QMessageBox>
 
-SK_diskSpareDialog::SK_diskSpareDialog(const QString &name, const QString &model, quint32 id,
-                                       quint32 selectedArray, QWidget *parent)
+SK_diskSpareDialog::SK_diskSpareDialog(SK_RaidApi &service, const QString &name,
+                                       const QString &model, quint32 id, quint32 selectedArray,
+                                       QWidget *parent)
     : QDialog(parent), diskName(name), diskModel(model), diskId(id), arrayId(selectedArray),
       ui(std::make_unique<Ui::SK_diskSpareDialog>())
 {
     ui->setupUi(this);
-    api = std::make_unique<SK_RaidApi>();
+    // Opening a dialog reads the configuration afresh.
+    api = &service;
+    api->RefreshConfig();
     initDialog();
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
 }

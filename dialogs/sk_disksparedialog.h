@@ -19,8 +19,8 @@ class SK_diskSpareDialog : public QDialog
 public:
     // `diskName` and `diskModel` are the texts of the disk list row, `arrayId` the array
     // selected in the main window (0 for none).
-    SK_diskSpareDialog(const QString &diskName, const QString &diskModel, quint32 diskId,
-                       quint32 arrayId, QWidget *parent = nullptr);
+    SK_diskSpareDialog(SK_RaidApi &service, const QString &diskName, const QString &diskModel,
+                       quint32 diskId, quint32 arrayId, QWidget *parent = nullptr);
     ~SK_diskSpareDialog() override;
 
 public slots:
@@ -34,7 +34,7 @@ private:
     int disk() const { return static_cast<int>(diskId); }
     int array() const { return static_cast<int>(arrayId); }
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     QString diskName;
     QString diskModel;
     quint32 diskId = 0;

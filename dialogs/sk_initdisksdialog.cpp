@@ -14,10 +14,11 @@ constexpr char kGeometryKey[] = "initDiskWindowGeometry";
 constexpr char kHeaderKey[] = "initDiskListHeaderState";
 } // namespace
 
-SK_initDisksDialog::SK_initDisksDialog(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_initDisksDialog>())
+SK_initDisksDialog::SK_initDisksDialog(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_initDisksDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setupInitDisksMenu();
     ui->initSelectedButton->setEnabled(false);

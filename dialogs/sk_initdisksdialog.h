@@ -19,7 +19,7 @@ class SK_initDisksDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_initDisksDialog(QWidget *parent = nullptr);
+    SK_initDisksDialog(SK_RaidApi &service, QWidget *parent = nullptr);
     ~SK_initDisksDialog() override;
 
 public slots:
@@ -32,6 +32,6 @@ public slots:
     void on_diskListTree_itemChanged(QTreeWidgetItem *item, int column);
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_initDisksDialog> ui;
 };

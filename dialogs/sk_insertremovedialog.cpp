@@ -3,10 +3,12 @@
 #include "service/service.h"
 #include "ui_sk_insertremovedialog.h"
 
-Sk_insertRemoveDialog::Sk_insertRemoveDialog(quint32 code, QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()), eventCode(code),
+Sk_insertRemoveDialog::Sk_insertRemoveDialog(SK_RaidApi &service, quint32 code, QWidget *parent)
+    : QDialog(parent), api(&service), eventCode(code),
       ui(std::make_unique<Ui::Sk_insertRemoveDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     ui->rescanButton->setText(tr("Rescan"));
     const bool insertion = eventCode == 1038 || eventCode == 1042;

@@ -16,14 +16,14 @@ class Sk_insertRemoveDialog : public QDialog
 
 public:
     // `eventCode` 1038 or 1042 is an insertion, anything else a removal.
-    explicit Sk_insertRemoveDialog(quint32 eventCode, QWidget *parent = nullptr);
+    Sk_insertRemoveDialog(SK_RaidApi &service, quint32 eventCode, QWidget *parent = nullptr);
     ~Sk_insertRemoveDialog() override;
 
 public slots:
     void on_rescanButton_clicked();
 
 private:
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     quint32 eventCode = 0;
     std::unique_ptr<Ui::Sk_insertRemoveDialog> ui;
 };

@@ -55,10 +55,11 @@ QDir appTempFolder()
 
 } // namespace
 
-SK_SmartDiskDialog::SK_SmartDiskDialog(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_SmartDiskDialog>())
+SK_SmartDiskDialog::SK_SmartDiskDialog(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_SmartDiskDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     ui->diskListLabel->setText(tr("Disk List:"));

@@ -17,7 +17,7 @@ class SK_SmartDiskDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_SmartDiskDialog(QWidget *parent = nullptr);
+    SK_SmartDiskDialog(SK_RaidApi &service, QWidget *parent = nullptr);
     ~SK_SmartDiskDialog() override;
 
 public slots:
@@ -31,7 +31,7 @@ private:
     // old alike: the overview can't tell the two apart.
     static QString formatPowerOnHours(const QString &hours);
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     QString smartLogPath;
     std::unique_ptr<Ui::SK_SmartDiskDialog> ui;
 };

@@ -14,10 +14,12 @@ int CustomSliderStyle::styleHint(StyleHint hint, const QStyleOption *option, con
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
-SK_TaskPriorityDialog::SK_TaskPriorityDialog(quint32 array, QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()), arrayId(array),
+SK_TaskPriorityDialog::SK_TaskPriorityDialog(SK_RaidApi &service, quint32 array, QWidget *parent)
+    : QDialog(parent), api(&service), arrayId(array),
       ui(std::make_unique<Ui::SK_TaskPriorityDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     ui->confirmButton->setText(tr("Confirm"));

@@ -29,7 +29,7 @@ class SK_TaskPriorityDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_TaskPriorityDialog(quint32 arrayId, QWidget *parent = nullptr);
+    SK_TaskPriorityDialog(SK_RaidApi &service, quint32 arrayId, QWidget *parent = nullptr);
     ~SK_TaskPriorityDialog() override;
 
 public slots:
@@ -40,7 +40,7 @@ public slots:
 private:
     void initTaskPriorityDialog();
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     quint32 arrayId = 0;
     std::unique_ptr<Ui::SK_TaskPriorityDialog> ui;
 };

@@ -26,10 +26,11 @@ QString latin(const char *field)
 
 } // namespace
 
-SK_TieringDialog::SK_TieringDialog(QWidget *parent)
-    : QDialog(parent), api(std::make_unique<SK_RaidApi>()),
-      ui(std::make_unique<Ui::SK_TieringDialog>())
+SK_TieringDialog::SK_TieringDialog(SK_RaidApi &service, QWidget *parent)
+    : QDialog(parent), api(&service), ui(std::make_unique<Ui::SK_TieringDialog>())
 {
+    // Opening a dialog reads the configuration afresh.
+    api->RefreshConfig();
     ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     initTieringForm();

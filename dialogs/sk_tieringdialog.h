@@ -20,7 +20,7 @@ class SK_TieringDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit SK_TieringDialog(QWidget *parent = nullptr);
+    SK_TieringDialog(SK_RaidApi &service, QWidget *parent = nullptr);
     ~SK_TieringDialog() override;
 
 public slots:
@@ -44,6 +44,6 @@ private:
     SK_Tier getTierParameters();
     bool isValidTierConfig();
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_TieringDialog> ui;
 };

@@ -42,7 +42,7 @@ int memberCount(const SK_ConfigArray &array)
 
 } // namespace
 
-SK_TransformDialog::SK_TransformDialog(int id, QSize size, QWidget *parent)
+SK_TransformDialog::SK_TransformDialog(SK_RaidApi &service, int id, QSize size, QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::SK_TransformDialog>()), iconSize(size), arrayId(id)
 {
     volumeLabel = tr("Volume  (JBOD)");
@@ -52,7 +52,9 @@ SK_TransformDialog::SK_TransformDialog(int id, QSize size, QWidget *parent)
     raid5Label = tr("RAID 5   (Stripe with Parity)");
     raid6Label = tr("RAID 6   (Stripe with 2 Parities)");
     ui->setupUi(this);
-    api = std::make_unique<SK_RaidApi>();
+    // Opening a dialog reads the configuration afresh.
+    api = &service;
+    api->RefreshConfig();
     {
         // The slots named after their widgets are connected by now; nothing is there
         // to judge before the list is filled.

@@ -22,7 +22,7 @@ class SK_TransformDialog : public QDialog
     Q_OBJECT
 
 public:
-    SK_TransformDialog(int arrayId, QSize iconSize, QWidget *parent = nullptr);
+    SK_TransformDialog(SK_RaidApi &service, int arrayId, QSize iconSize, QWidget *parent = nullptr);
     ~SK_TransformDialog() override;
 
 private slots:
@@ -56,7 +56,7 @@ private:
     void checkDisksWhere(const std::function<bool(int)> &wanted);
     bool ask(const QString &title, const QString &question);
 
-    std::unique_ptr<SK_RaidApi> api;
+    SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_TransformDialog> ui;
     QSize iconSize;
     int arrayId = 0;

@@ -299,25 +299,35 @@ void tst_German::windowAndDialogsShowNoEnglishText()
     // Each dialog is made only when its turn comes: the window must not count their texts.
     const std::vector<std::pair<const char *, std::function<QWidget *()>>> shown{
         {"main window", [&]() -> QWidget * { return &window; }},
-        {"create", [&]() -> QWidget * { return new SK_CreateDialog(icons, &window); }},
+        {"create",
+         [&]() -> QWidget * { return new SK_CreateDialog(*window.api(), icons, &window); }},
         {"transform",
-         [&]() -> QWidget * { return new SK_TransformDialog(int(kData), icons, &window); }},
-        {"caching", [&]() -> QWidget * { return new SK_TieringDialog(&window); }},
-        {"delete", [&]() -> QWidget * { return new SK_DeleteForm(&window); }},
-        {"priority", [&]() -> QWidget * { return new SK_TaskPriorityDialog(kData, &window); }},
-        {"name", [&]() -> QWidget * { return new SK_ArrayNameDialog(kData, &window); }},
+         [&]() -> QWidget * {
+             return new SK_TransformDialog(*window.api(), int(kData), icons, &window);
+         }},
+        {"caching", [&]() -> QWidget * { return new SK_TieringDialog(*window.api(), &window); }},
+        {"delete", [&]() -> QWidget * { return new SK_DeleteForm(*window.api(), &window); }},
+        {"priority",
+         [&]() -> QWidget * { return new SK_TaskPriorityDialog(*window.api(), kData, &window); }},
+        {"name",
+         [&]() -> QWidget * { return new SK_ArrayNameDialog(*window.api(), kData, &window); }},
         {"disk options",
          [&]() -> QWidget * {
-             return new SK_diskSpareDialog(disk->text(0), disk->text(10),
+             return new SK_diskSpareDialog(*window.api(), disk->text(0), disk->text(10),
                                            disk->data(0, Qt::UserRole).toUInt(), kData, &window);
          }},
-        {"initialise", [&]() -> QWidget * { return new SK_initDisksDialog(&window); }},
-        {"clear metadata", [&]() -> QWidget * { return new SK_ClearMetadataDialog(&window); }},
-        {"disk properties", [&]() -> QWidget * { return new SK_DiskProperites(&window); }},
-        {"SMART", [&]() -> QWidget * { return new SK_SmartDiskDialog(&window); }},
-        {"controllers", [&]() -> QWidget * { return new sk_ControllerProperties(&window); }},
-        {"about", [&]() -> QWidget * { return new SK_AboutDialog(&window); }},
-        {"insert notice", [&]() -> QWidget * { return new Sk_insertRemoveDialog(1009, &window); }},
+        {"initialise",
+         [&]() -> QWidget * { return new SK_initDisksDialog(*window.api(), &window); }},
+        {"clear metadata",
+         [&]() -> QWidget * { return new SK_ClearMetadataDialog(*window.api(), &window); }},
+        {"disk properties",
+         [&]() -> QWidget * { return new SK_DiskProperites(*window.api(), &window); }},
+        {"SMART", [&]() -> QWidget * { return new SK_SmartDiskDialog(*window.api(), &window); }},
+        {"controllers",
+         [&]() -> QWidget * { return new sk_ControllerProperties(*window.api(), &window); }},
+        {"about", [&]() -> QWidget * { return new SK_AboutDialog(*window.api(), &window); }},
+        {"insert notice",
+         [&]() -> QWidget * { return new Sk_insertRemoveDialog(*window.api(), 1009, &window); }},
     };
 
     const QSet<QString> english = textsThatMustNotShow();

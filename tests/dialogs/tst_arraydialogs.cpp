@@ -150,7 +150,8 @@ void TestArrayDialogs::initTestCase()
 void TestArrayDialogs::createListsDisksWithFreeSpace()
 {
     EmulatedHostScope scope;
-    SK_CreateDialog dialog(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog dialog(api, QSize(16, 16));
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
     const QList<int> listed = rowIds(list, SK_Role::DeviceId);
     QVERIFY2(listed.contains(kNvme), "the unused NVMe disk is offered");
@@ -200,7 +201,8 @@ void TestArrayDialogs::createVerdictFollowsTheSelection()
 
     EmulatedHostScope scope;
     addNvmeDisks(scope, extraDisks);
-    SK_CreateDialog dialog(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog dialog(api, QSize(16, 16));
     widget<QComboBox>(&dialog, "arrayTypeSel")->setCurrentIndex(typeRow);
     checkDisks(&dialog, disks);
 
@@ -222,7 +224,8 @@ void TestArrayDialogs::createCapacityFollowsTheMaximumUntilTyped()
 {
     EmulatedHostScope scope;
     addNvmeDisks(scope, 2);
-    SK_CreateDialog dialog(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog dialog(api, QSize(16, 16));
     auto *capacity = widget<QLineEdit>(&dialog, "currentCapInput");
     auto *maximum = widget<QLineEdit>(&dialog, "maxCapInput");
     QVERIFY2(capacity->text().isEmpty(), "nothing is possible before a disk is checked");
@@ -257,7 +260,8 @@ void TestArrayDialogs::createCapacityFollowsTheMaximumUntilTyped()
 void TestArrayDialogs::createOptionRulesExcludeEachOther()
 {
     EmulatedHostScope scope;
-    SK_CreateDialog dialog(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog dialog(api, QSize(16, 16));
     auto *skip = widget<QCheckBox>(&dialog, "skipInitCheckBox");
     auto *leave = widget<QCheckBox>(&dialog, "leaveDataCheckBox");
     auto *zero = widget<QCheckBox>(&dialog, "zeroCreateCheckBox");
@@ -287,7 +291,8 @@ void TestArrayDialogs::createOptionRulesExcludeEachOther()
 void TestArrayDialogs::createCommitReachesTheDrivers()
 {
     EmulatedHostScope scope;
-    SK_CreateDialog dialog(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog dialog(api, QSize(16, 16));
     checkDisks(&dialog, {kNvme});
     widget<QLineEdit>(&dialog, "currentCapInput")->setText(QStringLiteral("250000"));
     widget<QLineEdit>(&dialog, "arrayNameInput")->setText(QStringLiteral("Scratch"));
@@ -333,7 +338,8 @@ void TestArrayDialogs::createRefusalSendsNothing()
     if (sataSsd)
         addDiskLike(scope, kSsdA, "S6PUNX0T512999Z");
     const std::uint64_t before = scope.host->model().generation;
-    SK_CreateDialog dialog(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog dialog(api, QSize(16, 16));
     widget<QComboBox>(&dialog, "arrayTypeSel")->setCurrentIndex(typeRow);
     checkDisks(&dialog, disks);
     if (!name.isEmpty())
@@ -354,7 +360,8 @@ void TestArrayDialogs::createRefusalSendsNothing()
 void TestArrayDialogs::createRestoresItsWindowState()
 {
     EmulatedHostScope scope;
-    expectWindowStateKept([] { return std::make_unique<SK_CreateDialog>(QSize(16, 16)); },
+    SK_RaidApi api;
+    expectWindowStateKept([&api] { return std::make_unique<SK_CreateDialog>(api, QSize(16, 16)); },
                           "diskList", 9);
     QSettings().clear();
 }
@@ -362,7 +369,8 @@ void TestArrayDialogs::createRestoresItsWindowState()
 void TestArrayDialogs::transformListsTheArraysOwnDisks()
 {
     EmulatedHostScope scope;
-    SK_TransformDialog dialog(kData, QSize(16, 16));
+    SK_RaidApi api;
+    SK_TransformDialog dialog(api, kData, QSize(16, 16));
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
     const QList<int> listed = rowIds(list, SK_Role::DeviceId);
     QVERIFY2(listed.contains(kHdd1) && listed.contains(kHdd1 + 2),
@@ -378,7 +386,8 @@ void TestArrayDialogs::transformListsTheArraysOwnDisks()
 void TestArrayDialogs::transformVerdictFollowsTheSelection()
 {
     EmulatedHostScope scope;
-    SK_TransformDialog dialog(kData, QSize(16, 16));
+    SK_RaidApi api;
+    SK_TransformDialog dialog(api, kData, QSize(16, 16));
     auto *label = widget<QLabel>(&dialog, "transformWarningLabel");
     QCOMPARE(plain(label->text()), QStringLiteral("Invalid Configuration: no disks were selected"));
 
@@ -400,7 +409,8 @@ void TestArrayDialogs::transformCantShrinkButCommitsGrowth()
 {
     EmulatedHostScope scope;
     addHardDisk(scope);
-    SK_TransformDialog dialog(kData, QSize(16, 16));
+    SK_RaidApi api;
+    SK_TransformDialog dialog(api, kData, QSize(16, 16));
     click(&dialog, "sameButton");
     checkDisks(&dialog, {8});
     auto *capacity = widget<QLineEdit>(&dialog, "capInput");
@@ -436,7 +446,8 @@ void TestArrayDialogs::transformCantShrinkButCommitsGrowth()
 void TestArrayDialogs::transformSeesTheArrayGone()
 {
     EmulatedHostScope scope;
-    SK_TransformDialog dialog(kData, QSize(16, 16));
+    SK_RaidApi api;
+    SK_TransformDialog dialog(api, kData, QSize(16, 16));
     click(&dialog, "sameButton");
     scope.host->modify([](Model &m) {
         m.arrays.pop_back();
@@ -459,7 +470,8 @@ void TestArrayDialogs::screenshots()
     EmulatedHostScope scope;
     addNvmeDisks(scope, 3);
     Screenshots shots(folder);
-    SK_CreateDialog create(QSize(16, 16));
+    SK_RaidApi api;
+    SK_CreateDialog create(api, QSize(16, 16));
     widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid10Row);
     checkDisks(&create, {kNvme, 8, 9, 10});
     shots.shoot(&create, QStringLiteral("create"));
@@ -468,7 +480,7 @@ void TestArrayDialogs::screenshots()
     shots.shoot(&create, QStringLiteral("create_invalid"));
 
     addHardDisk(scope);
-    SK_TransformDialog transform(kData, QSize(16, 16));
+    SK_TransformDialog transform(api, kData, QSize(16, 16));
     click(&transform, "sameButton");
     checkDisks(&transform, {11});
     shots.shoot(&transform, QStringLiteral("transform"));

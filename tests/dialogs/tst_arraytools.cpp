@@ -167,7 +167,8 @@ void TestArrayTools::priorityOpensAtTheTasksLevel()
 
     EmulatedHostScope scope;
     runningCheck(scope, kData, priority);
-    SK_TaskPriorityDialog dialog(kData);
+    SK_RaidApi api;
+    SK_TaskPriorityDialog dialog(api, kData);
     auto *slider = widget<QSlider>(&dialog, "prioritySlider");
     QCOMPARE(slider->value(), opensAt);
     QCOMPARE(widget<QLabel>(&dialog, "currentyPriorityLabel")->text(),
@@ -186,7 +187,8 @@ void TestArrayTools::priorityOfATaskThatEndedClosesAccepted()
 {
     EmulatedHostScope scope;
     runningCheck(scope, kData, 50);
-    SK_TaskPriorityDialog dialog(kData);
+    SK_RaidApi api;
+    SK_TaskPriorityDialog dialog(api, kData);
     scope.host->modify([](Model &m) {
         arrayOf(m, kData).task = Task{};
         return true;
@@ -203,7 +205,8 @@ void TestArrayTools::priorityOfATaskThatEndedClosesAccepted()
 void TestArrayTools::renameReachesTheDrivers()
 {
     EmulatedHostScope scope;
-    SK_ArrayNameDialog dialog(kData);
+    SK_RaidApi api;
+    SK_ArrayNameDialog dialog(api, kData);
     auto *edit = widget<QLineEdit>(&dialog, "arrayNameLineEdit");
     QCOMPARE(edit->text(), QStringLiteral("Data"));
     edit->setText(QStringLiteral("  Archive "));
@@ -228,7 +231,8 @@ void TestArrayTools::renameRefusesInvalidNames()
     QFETCH(QString, name);
     QFETCH(bool, message);
     EmulatedHostScope scope;
-    SK_ArrayNameDialog dialog(kData);
+    SK_RaidApi api;
+    SK_ArrayNameDialog dialog(api, kData);
     dialog.show();
     widget<QLineEdit>(&dialog, "arrayNameLineEdit")->setText(name);
     BoxAnswerer answerer(QMessageBox::Ok);
@@ -252,7 +256,8 @@ void TestArrayTools::deleteListDisablesSystemArrays()
         m.arrays.push_back(hidden);
         return true;
     });
-    SK_DeleteForm dialog;
+    SK_RaidApi api;
+    SK_DeleteForm dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     QCOMPARE(rowIds(list), (QList<int>{kSystem, kData, kBulk}));
     QVERIFY(listedRow(list, kSystem)->isDisabled());
@@ -275,7 +280,8 @@ void TestArrayTools::deleteConfirmationFollowsTheDisplayOrder()
 {
     EmulatedHostScope scope;
     addPlainPair(scope);
-    SK_DeleteForm dialog;
+    SK_RaidApi api;
+    SK_DeleteForm dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     tick(list, kData);
     tick(list, kFast);
@@ -295,7 +301,8 @@ void TestArrayTools::deleteConfirmationFollowsTheDisplayOrder()
 void TestArrayTools::deleteAnsweredNoKeepsTicksAndArrays()
 {
     EmulatedHostScope scope;
-    SK_DeleteForm dialog;
+    SK_RaidApi api;
+    SK_DeleteForm dialog(api);
     dialog.show();
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     tick(list, kData);
@@ -313,7 +320,8 @@ void TestArrayTools::deleteOfThreeArraysRunsBehindTheProgressDialog()
 {
     EmulatedHostScope scope;
     addPlainPair(scope);
-    SK_DeleteForm dialog;
+    SK_RaidApi api;
+    SK_DeleteForm dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     click(&dialog, "selectAllButton");
     BoxAnswerer answerer(QMessageBox::Yes);
@@ -349,7 +357,8 @@ void TestArrayTools::deleteListDisablesTierParts()
         tier.arrayCount = 2;
         QCOMPARE(api.CreateTier(tier, false), 1);
     }
-    SK_DeleteForm dialog;
+    SK_RaidApi api;
+    SK_DeleteForm dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "arrayList");
     QCOMPARE(list->topLevelItemCount(), 5);
     for (int part : {kFast, kBulk}) {
@@ -371,7 +380,8 @@ void TestArrayTools::tieringListsHotAndColdArrays()
 {
     EmulatedHostScope scope;
     addPlainPair(scope);
-    SK_TieringDialog dialog;
+    SK_RaidApi api;
+    SK_TieringDialog dialog(api);
     QCOMPARE(rowIds(widget<QTreeWidget>(&dialog, "hotArrayList")), (QList<int>{kSystem, kFast}));
     QCOMPARE(rowIds(widget<QTreeWidget>(&dialog, "coldArrayList")), (QList<int>{kData, kBulk}));
     QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
@@ -383,7 +393,8 @@ void TestArrayTools::tieringTickNarrowsTheOtherList()
 {
     EmulatedHostScope scope;
     addPlainPair(scope);
-    SK_TieringDialog dialog;
+    SK_RaidApi api;
+    SK_TieringDialog dialog(api);
     auto *hot = widget<QTreeWidget>(&dialog, "hotArrayList");
     auto *cold = widget<QTreeWidget>(&dialog, "coldArrayList");
     // D: is bigger than both hot arrays, but the system mirror holds C:.
@@ -430,7 +441,8 @@ void TestArrayTools::tieringPairsThatMayBeCommitted()
 
     EmulatedHostScope scope;
     addPlainPair(scope);
-    SK_TieringDialog dialog;
+    SK_RaidApi api;
+    SK_TieringDialog dialog(api);
     widget<QComboBox>(&dialog, "cacheComboBox")->setCurrentIndex(cacheRow);
     tick(widget<QTreeWidget>(&dialog, "coldArrayList"), kBulk);
     tick(widget<QTreeWidget>(&dialog, "hotArrayList"), hotArray);
@@ -459,8 +471,9 @@ void TestArrayTools::windowStateIsRestored()
 {
     EmulatedHostScope scope;
     addPlainPair(scope);
-    const auto tiering = [] { return std::make_unique<SK_TieringDialog>(); };
-    expectWindowStateKept([] { return std::make_unique<SK_DeleteForm>(); }, "arrayList", 4);
+    SK_RaidApi api;
+    const auto tiering = [&api] { return std::make_unique<SK_TieringDialog>(api); };
+    expectWindowStateKept([&api] { return std::make_unique<SK_DeleteForm>(api); }, "arrayList", 4);
     // The tiering dialog is larger than the others at the least.
     expectWindowStateKept(tiering, "hotArrayList", 3, {1000, 700});
     expectWindowStateKept(tiering, "coldArrayList", 2, {1000, 700});
@@ -477,17 +490,18 @@ void TestArrayTools::screenshots()
     addPlainPair(scope);
     runningCheck(scope, kData, 50);
     Screenshots shots(folder);
-    SK_TaskPriorityDialog priority(kData);
+    SK_RaidApi api;
+    SK_TaskPriorityDialog priority(api, kData);
     priority.setWindowTitle(QStringLiteral("Task Priority"));
     shots.shoot(&priority, QStringLiteral("task_priority"));
-    SK_ArrayNameDialog name(kData);
+    SK_ArrayNameDialog name(api, kData);
     name.setWindowTitle(QStringLiteral("Array Name"));
     shots.shoot(&name, QStringLiteral("array_name"));
-    SK_DeleteForm form;
+    SK_DeleteForm form(api);
     form.setWindowTitle(QStringLiteral("Delete"));
     tick(widget<QTreeWidget>(&form, "arrayList"), kFast);
     shots.shoot(&form, QStringLiteral("delete_arrays"));
-    SK_TieringDialog tiering;
+    SK_TieringDialog tiering(api);
     tiering.setWindowTitle(QStringLiteral("Caching"));
     tick(widget<QTreeWidget>(&tiering, "coldArrayList"), kBulk);
     shots.shoot(&tiering, QStringLiteral("caching"));

@@ -90,7 +90,8 @@ void makeDedicatedSpareOfData(Model &m)
 // (none if null) and presses OK; the dialog's result.
 int chooseOption(int disk, int array, const char *option, const QString &model = QString())
 {
-    SK_diskSpareDialog dialog(QStringLiteral("0 %1").arg(disk - 1), model, quint32(disk),
+    SK_RaidApi api;
+    SK_diskSpareDialog dialog(api, QStringLiteral("0 %1").arg(disk - 1), model, quint32(disk),
                               quint32(array));
     if (option)
         widget<QRadioButton>(&dialog, option)->setChecked(true);
@@ -204,7 +205,8 @@ void TestDiskDialogs::optionsOfferActionsByTheDisk()
     QFETCH(int, array);
     EmulatedHostScope scope;
     applyChange(scope, change);
-    SK_diskSpareDialog dialog(QStringLiteral("0 %1").arg(disk - 1), QStringLiteral("Model"),
+    SK_RaidApi api;
+    SK_diskSpareDialog dialog(api, QStringLiteral("0 %1").arg(disk - 1), QStringLiteral("Model"),
                               quint32(disk), quint32(array));
 
     auto *dedicated = widget<QRadioButton>(&dialog, "assignDedSpare");
@@ -236,7 +238,8 @@ void TestDiskDialogs::optionsDeclinedDriveMixingSendsNothing()
 {
     EmulatedHostScope scope;
     const std::uint64_t before = scope.host->model().generation;
-    SK_diskSpareDialog dialog(QStringLiteral("0 6"), QString(), kNvme, kSystem);
+    SK_RaidApi api;
+    SK_diskSpareDialog dialog(api, QStringLiteral("0 6"), QString(), kNvme, kSystem);
     widget<QRadioButton>(&dialog, "assignDedSpare")->setChecked(true);
     {
         BoxAnswerer no(QMessageBox::No);
@@ -293,7 +296,8 @@ void TestDiskDialogs::optionsRemovalOfASystemDiskIsRefused()
         return true;
     });
     const std::uint64_t before = scope.host->model().generation;
-    SK_diskSpareDialog dialog(QStringLiteral("0 0"), QStringLiteral("Samsung SSD 870 EVO 1TB"),
+    SK_RaidApi api;
+    SK_diskSpareDialog dialog(api, QStringLiteral("0 0"), QStringLiteral("Samsung SSD 870 EVO 1TB"),
                               kSsd1, kSystem);
     auto *removal = widget<QRadioButton>(&dialog, "removeDiskBtn");
     QVERIFY2(removal->isEnabled(), "a hot-swap disk offers the removal");
@@ -342,7 +346,8 @@ void TestDiskDialogs::initialiseListsDisksThatMayBeInitialised()
     QFETCH(Change, change);
     EmulatedHostScope scope;
     applyChange(scope, change);
-    SK_initDisksDialog dialog;
+    SK_RaidApi api;
+    SK_initDisksDialog dialog(api);
     QTEST(listedDisks(&dialog), "listed");
     QVERIFY2(!widget<QPushButton>(&dialog, "selectUnInitButton")->isEnabled(), "no disk is new");
     QVERIFY2(!widget<QPushButton>(&dialog, "initSelectedButton")->isEnabled(), "nothing is ticked");
@@ -356,7 +361,8 @@ void TestDiskDialogs::initialiseUnInitialisedButtonPicksNewDisks()
         arrayOf(m, kData).layout.members.at(1).flags |= code::MemberFailed;
         return true;
     });
-    SK_initDisksDialog dialog;
+    SK_RaidApi api;
+    SK_initDisksDialog dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
     QCOMPARE(rowWithId(list, kNvme)->text(2), QStringLiteral("New"));
     QVERIFY(widget<QPushButton>(&dialog, "selectUnInitButton")->isEnabled());
@@ -374,7 +380,8 @@ void TestDiskDialogs::initialiseUnInitialisedButtonPicksNewDisks()
 void TestDiskDialogs::initialiseCommitReachesTheDrivers()
 {
     EmulatedHostScope scope;
-    SK_initDisksDialog dialog;
+    SK_RaidApi api;
+    SK_initDisksDialog dialog(api);
     tick(&dialog, {kNvme});
     click(&dialog, "initSelectedButton");
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
@@ -387,7 +394,8 @@ void TestDiskDialogs::initialiseCommitReachesTheDrivers()
 void TestDiskDialogs::initialiseRefusedByTheDriversStaysOpen()
 {
     EmulatedHostScope scope;
-    SK_initDisksDialog dialog;
+    SK_RaidApi api;
+    SK_initDisksDialog dialog(api);
     tick(&dialog, {kNvme});
     // Meanwhile the disk joined the data array: the drivers refuse to wipe it.
     scope.host->modify([](Model &m) {
@@ -410,8 +418,9 @@ void TestDiskDialogs::initialiseRefusedByTheDriversStaysOpen()
 void TestDiskDialogs::clearMetadataListsPlainDisksAndSpares()
 {
     EmulatedHostScope scope;
+    SK_RaidApi api;
     {
-        SK_ClearMetadataDialog dialog;
+        SK_ClearMetadataDialog dialog(api);
         QCOMPARE(listedDisks(&dialog), (QList<int>{kSpare, kNvme}));
         QVERIFY(!widget<QPushButton>(&dialog, "clearMetaButton")->isEnabled());
     }
@@ -419,7 +428,7 @@ void TestDiskDialogs::clearMetadataListsPlainDisksAndSpares()
         diskOf(m, kNvme).type = code::DiskTypeUnknown;
         return true;
     });
-    SK_ClearMetadataDialog dialog;
+    SK_ClearMetadataDialog dialog(api);
     QVERIFY2(!listedDisks(&dialog).contains(kNvme), "a disk of another type is not listed");
 }
 
@@ -430,7 +439,8 @@ void TestDiskDialogs::clearMetadataButtonFollowsTheTickOrder()
         arrayOf(m, kData).layout.type = code::TypeLegacy;
         return true;
     });
-    SK_ClearMetadataDialog dialog;
+    SK_RaidApi api;
+    SK_ClearMetadataDialog dialog(api);
     auto *button = widget<QPushButton>(&dialog, "clearMetaButton");
     auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
     QCOMPARE(rowWithId(list, kHdd1)->text(3), QStringLiteral("1"));
@@ -450,14 +460,15 @@ void TestDiskDialogs::clearMetadataButtonFollowsTheTickOrder()
 void TestDiskDialogs::clearMetadataCommitClearsAndRescans()
 {
     EmulatedHostScope scope;
-    SK_ClearMetadataDialog dialog;
+    SK_RaidApi api;
+    SK_ClearMetadataDialog dialog(api);
     tick(&dialog, {kSpare});
     click(&dialog, "clearMetaButton");
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     const Model m = scope.host->model();
     QVERIFY2(hasEvent(m, kClearedEvent, diskOf(m, kSpare).port), "the metadata was cleared");
     QVERIFY2(!diskOf(m, kSpare).globalSpare, "the spare's role went with its metadata");
-    SK_RaidApi api;
+    api.RefreshConfig();
     QVERIFY2(!api.DiskIsGlobalSpare(kSpare), "the picture after the rescan shows it");
 }
 
@@ -473,7 +484,8 @@ void TestDiskDialogs::propertiesListShowsEachDisksSettings()
         diskOf(m, kHdd1).firmware = "FW_1";
         return true;
     });
-    SK_DiskProperites dialog;
+    SK_RaidApi api;
+    SK_DiskProperites dialog(api);
     QCOMPARE(listedDisks(&dialog), (QList<int>{1, 2, 3, 4, 5, 6, 7}));
     auto *list = widget<QTreeWidget>(&dialog, "diskListTree");
     const auto texts = [list](int disk) {
@@ -492,7 +504,8 @@ void TestDiskDialogs::propertiesListShowsEachDisksSettings()
 void TestDiskDialogs::propertiesCacheCommandSkipsNvmeAndKeepsTicks()
 {
     EmulatedHostScope scope;
-    SK_DiskProperites dialog;
+    SK_RaidApi api;
+    SK_DiskProperites dialog(api);
     tick(&dialog, {kHdd1, kNvme});
     BoxAnswerer ok(QMessageBox::Ok);
     click(&dialog, "diskWriteDisableButton");
@@ -530,7 +543,8 @@ void TestDiskDialogs::propertiesWithoutASataDiskTickedSendNothing()
     EmulatedHostScope scope;
     const std::uint64_t before = scope.host->model().generation;
     const std::size_t events = scope.host->model().events.size();
-    SK_DiskProperites dialog;
+    SK_RaidApi api;
+    SK_DiskProperites dialog(api);
     tick(&dialog, ticked);
     QTreeWidgetItem *row = rowWithId(widget<QTreeWidget>(&dialog, "diskListTree"), kNvme);
     BoxAnswerer ok(QMessageBox::Ok);
@@ -546,7 +560,8 @@ void TestDiskDialogs::propertiesWithoutASataDiskTickedSendNothing()
 void TestDiskDialogs::propertiesSmartPollingReachesNvme()
 {
     EmulatedHostScope scope;
-    SK_DiskProperites dialog;
+    SK_RaidApi api;
+    SK_DiskProperites dialog(api);
     tick(&dialog, {kNvme});
     click(&dialog, "smartDisableButton");
     QVERIFY2(!(diskOf(scope.host->model(), kNvme).features & code::FeatureSmartPolling),
@@ -560,10 +575,13 @@ void TestDiskDialogs::propertiesSmartPollingReachesNvme()
 void TestDiskDialogs::windowStateIsRestored()
 {
     EmulatedHostScope scope;
-    expectWindowStateKept([] { return std::make_unique<SK_initDisksDialog>(); }, "diskListTree", 5);
-    expectWindowStateKept([] { return std::make_unique<SK_ClearMetadataDialog>(); }, "diskListTree",
-                          5);
-    expectWindowStateKept([] { return std::make_unique<SK_DiskProperites>(); }, "diskListTree", 7);
+    SK_RaidApi api;
+    expectWindowStateKept([&api] { return std::make_unique<SK_initDisksDialog>(api); },
+                          "diskListTree", 5);
+    expectWindowStateKept([&api] { return std::make_unique<SK_ClearMetadataDialog>(api); },
+                          "diskListTree", 5);
+    expectWindowStateKept([&api] { return std::make_unique<SK_DiskProperites>(api); },
+                          "diskListTree", 7);
     const QSettings settings;
     for (const char *key :
          {"initDiskWindowGeometry", "initDiskListHeaderState", "clearMetaWindowGeometry",
@@ -586,18 +604,19 @@ void TestDiskDialogs::screenshots()
         return true;
     });
     Screenshots shots(folder);
-    SK_diskSpareDialog options(QStringLiteral("0 5"), QStringLiteral("WDC WD40EFPX"), kSpare,
+    SK_RaidApi api;
+    SK_diskSpareDialog options(api, QStringLiteral("0 5"), QStringLiteral("WDC WD40EFPX"), kSpare,
                                kData);
     options.setWindowTitle(QStringLiteral("Options"));
     shots.shoot(&options, QStringLiteral("disk_options"));
-    SK_initDisksDialog initialise;
+    SK_initDisksDialog initialise(api);
     initialise.setWindowTitle(QStringLiteral("Initialize Disks"));
     tick(&initialise, {kNvme});
     shots.shoot(&initialise, QStringLiteral("initialise_disks"));
-    SK_ClearMetadataDialog clear;
+    SK_ClearMetadataDialog clear(api);
     clear.setWindowTitle(QStringLiteral("Clear Metadata"));
     shots.shoot(&clear, QStringLiteral("clear_metadata"));
-    SK_DiskProperites properties;
+    SK_DiskProperites properties(api);
     properties.setWindowTitle(QStringLiteral("Properties"));
     tick(&properties, {kHdd1, kHdd2});
     shots.shoot(&properties, QStringLiteral("disk_properties"));

@@ -155,7 +155,8 @@ void TestInfoDialogs::smartOverviewShowsEachDriveKind()
                 texts.last() = texts.last().arg((a.raw >> 16) & 0xFFFF).arg((a.raw >> 32) & 0xFFFF);
         }
     }
-    SK_SmartDiskDialog dialog;
+    SK_RaidApi api;
+    SK_SmartDiskDialog dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
     QCOMPARE(list->topLevelItemCount(), 7);
     QTreeWidgetItem *row = listedRow(list, disk);
@@ -182,14 +183,16 @@ void TestInfoDialogs::smartOverviewPowerOnTime()
     QFETCH(QString, shown);
     EmulatedHostScope scope;
     setAttribute(scope, kHdd - 1, 9, hours);
-    SK_SmartDiskDialog dialog;
+    SK_RaidApi api;
+    SK_SmartDiskDialog dialog(api);
     QCOMPARE(rowWithId(widget<QTreeWidget>(&dialog, "diskList"), kHdd)->text(HoursCol), shown);
 }
 
 void TestInfoDialogs::smartQueryWithoutTicksTouchesNothing()
 {
     EmulatedHostScope scope;
-    SK_SmartDiskDialog dialog;
+    SK_RaidApi api;
+    SK_SmartDiskDialog dialog(api);
     QTest::mouseClick(widget<QPushButton>(&dialog, "smartButton"), Qt::LeftButton);
     QVERIFY2(!QFile::exists(smartLogPath()), "no disk ticked, no log");
     QVERIFY2(!QFile::exists(transcriptPath()), "no disk ticked, no transcript");
@@ -199,7 +202,8 @@ void TestInfoDialogs::smartQueryWithoutTicksTouchesNothing()
 void TestInfoDialogs::smartQueryWritesTheTickedDisksReport()
 {
     EmulatedHostScope scope;
-    SK_SmartDiskDialog dialog;
+    SK_RaidApi api;
+    SK_SmartDiskDialog dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
     rowWithId(list, kWarnedHdd)->setCheckState(DiskCol, Qt::Checked);
     QTest::mouseClick(widget<QPushButton>(&dialog, "smartButton"), Qt::LeftButton);
@@ -226,7 +230,8 @@ void TestInfoDialogs::smartQueryWritesTheTickedDisksReport()
 void TestInfoDialogs::smartSecondQueryEmptiesTheFirstLog()
 {
     EmulatedHostScope scope;
-    SK_SmartDiskDialog dialog;
+    SK_RaidApi api;
+    SK_SmartDiskDialog dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "diskList");
     rowWithId(list, kSsd)->setCheckState(DiskCol, Qt::Checked);
     rowWithId(list, kNvme)->setCheckState(DiskCol, Qt::Checked);
@@ -271,7 +276,8 @@ void TestInfoDialogs::controllerListShowsEachKindOfController()
         m.disks.back().port = 0;
         return true;
     });
-    sk_ControllerProperties dialog;
+    SK_RaidApi api;
+    sk_ControllerProperties dialog(api);
     auto *list = widget<QTreeWidget>(&dialog, "controllerList");
     QStringList numbers;
     for (int i = 0; i < list->topLevelItemCount(); ++i)
@@ -314,7 +320,8 @@ void TestInfoDialogs::aboutShowsTheDriverFileVersions()
         m.host.drivers.pop_back(); // skbottom.sys is missing
         return true;
     });
-    SK_AboutDialog dialog(nullptr, QStringLiteral("9.3.3-00097"));
+    SK_RaidApi api;
+    SK_AboutDialog dialog(api, nullptr, QStringLiteral("9.3.3-00097"));
     QCOMPARE(widget<QLabel>(&dialog, "skraidValue")->text(), QStringLiteral("9.0.0.1182"));
     QCOMPARE(widget<QLabel>(&dialog, "skcfgValue")->text(), QStringLiteral("9.0.0.1190"));
     QCOMPARE(widget<QLabel>(&dialog, "skbottomValue")->text(), QStringLiteral("Unknown"));
@@ -352,8 +359,10 @@ void TestInfoDialogs::aboutVersionFollowsTheInstallFolder()
 void TestInfoDialogs::windowStateIsRestored()
 {
     EmulatedHostScope scope;
-    expectWindowStateKept([] { return std::make_unique<SK_SmartDiskDialog>(); }, "diskList", 3);
-    expectWindowStateKept([] { return std::make_unique<sk_ControllerProperties>(); },
+    SK_RaidApi api;
+    expectWindowStateKept([&api] { return std::make_unique<SK_SmartDiskDialog>(api); }, "diskList",
+                          3);
+    expectWindowStateKept([&api] { return std::make_unique<sk_ControllerProperties>(api); },
                           "controllerList", 3);
 }
 
@@ -366,11 +375,12 @@ void TestInfoDialogs::screenshots()
         QSKIP("SK_DIALOG_SHOTS is not set");
     EmulatedHostScope scope;
     Screenshots shots(folder);
-    SK_SmartDiskDialog smart;
+    SK_RaidApi api;
+    SK_SmartDiskDialog smart(api);
     shots.shoot(&smart, QStringLiteral("smart"));
-    sk_ControllerProperties controllers;
+    sk_ControllerProperties controllers(api);
     shots.shoot(&controllers, QStringLiteral("controllers"));
-    SK_AboutDialog about(nullptr, QStringLiteral("9.3.3-00097"));
+    SK_AboutDialog about(api, nullptr, QStringLiteral("9.3.3-00097"));
     shots.shoot(&about, QStringLiteral("about"));
 }
 
