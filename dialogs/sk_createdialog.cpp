@@ -1,4 +1,5 @@
 #include "dialogs/sk_createdialog.h"
+#include "dialogs/sk_questions.h"
 
 #include "dialogs/sk_arraydialogparts.h"
 #include "dialogs/sk_treeitems.h"
@@ -261,17 +262,17 @@ void SK_CreateDialog::createButton_clicked()
         spare |= api->DiskIsDedicatedSpare(id) || api->DiskIsGlobalSpare(id);
     }
     if (spare &&
-        QMessageBox::question(
+        !SK_AskYesNo(
             this, tr("Confirm Create"),
             tr("Warning: You have included a spare in the array. Would you like to continue?"),
-            QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+            tr("Yes"), tr("No")))
         return;
     if (api->HasDriveMixing(params) &&
-        QMessageBox::question(this, tr("Confirm Create"),
-                              tr("Warning: drive mixing detected! For best performance, it is "
-                                 "not recommended to mix drives of substantially different "
-                                 "performance. Do you want to create anyway?"),
-                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+        !SK_AskYesNo(this, tr("Confirm Create"),
+                     tr("Warning: drive mixing detected! For best performance, it is "
+                        "not recommended to mix drives of substantially different "
+                        "performance. Do you want to create anyway?"),
+                     tr("Yes"), tr("No")))
         return;
     if (api->CreateArray(params, false) < 1) {
         QMessageBox::about(this, QCoreApplication::applicationName(), tr("Create failed"));

@@ -1,4 +1,5 @@
 #include "dialogs/sk_deleteform.h"
+#include "dialogs/sk_questions.h"
 
 #include "dialogs/sk_arraylistparts.h"
 #include "dialogs/sk_diskdialogparts.h"
@@ -149,12 +150,8 @@ void SK_DeleteForm::on_cancelButton_clicked()
 
 void SK_DeleteForm::on_deleteButton_clicked()
 {
-    QMessageBox box(QMessageBox::Question, tr("Confirm Action"), generateDeleteConfirmationString(),
-                    QMessageBox::Yes | QMessageBox::No, this,
-                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    box.setButtonText(QMessageBox::Yes, tr("Yes"));
-    box.setButtonText(QMessageBox::No, tr("No"));
-    if (box.exec() != QMessageBox::Yes)
+    if (!SK_AskYesNo(this, tr("Confirm Action"), generateDeleteConfirmationString(), tr("Yes"),
+                     tr("No")))
         return;
 
     // The worker and its thread clean up after themselves when the run ends; nobody

@@ -1,4 +1,5 @@
 #include "dialogs/sk_disksparedialog.h"
+#include "dialogs/sk_questions.h"
 
 #include "service/service.h"
 #include "ui_sk_disksparedialog.h"
@@ -65,15 +66,12 @@ void SK_diskSpareDialog::on_okButton_clicked()
             api->RemoveDedicatedSpare(array(), disk());
         } else {
             if (api->DiskMixesWithArray(array(), disk())) {
-                QMessageBox box(QMessageBox::Question, tr("Confirm Spare Assignment"),
-                                tr("Warning: drive mixing detected! For best performance, it is "
-                                   "not recommended to mix drives of substantially different "
-                                   "performance. Do you want to continue with spare "
-                                   "assignment?"),
-                                QMessageBox::Yes | QMessageBox::No, this);
-                box.setButtonText(QMessageBox::Yes, tr("Yes"));
-                box.setButtonText(QMessageBox::No, tr("No"));
-                if (box.exec() != QMessageBox::Yes)
+                if (!SK_AskYesNo(this, tr("Confirm Spare Assignment"),
+                                 tr("Warning: drive mixing detected! For best performance, it is "
+                                    "not recommended to mix drives of substantially different "
+                                    "performance. Do you want to continue with spare "
+                                    "assignment?"),
+                                 tr("Yes"), tr("No")))
                     return;
             }
             api->AssignDedicatedSpare(array(), disk());

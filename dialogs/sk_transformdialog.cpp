@@ -1,4 +1,5 @@
 #include "dialogs/sk_transformdialog.h"
+#include "dialogs/sk_questions.h"
 
 #include "dialogs/sk_arraydialogparts.h"
 #include "dialogs/sk_treeitems.h"
@@ -348,8 +349,7 @@ bool SK_TransformDialog::SourceHasHotswapDevices()
 
 bool SK_TransformDialog::ask(const QString &title, const QString &question)
 {
-    return QMessageBox::question(this, title, question, QMessageBox::Yes | QMessageBox::No) ==
-           QMessageBox::Yes;
+    return SK_AskYesNo(this, title, question, tr("Yes"), tr("No"));
 }
 
 void SK_TransformDialog::commitTransformButton_clicked()

@@ -668,8 +668,9 @@ bool SK_RaidApi::DriverIsLoaded(const QString &file) const
     std::vector<std::string> drivers;
     if (!SK_CurrentPlatform().system().loadedDrivers(drivers))
         return false;
+    // Exactly, case included: a module's base name is compared as the system lists it.
     return std::any_of(drivers.begin(), drivers.end(), [&file](const std::string &name) {
-        return QString::fromStdString(name).compare(file, Qt::CaseInsensitive) == 0;
+        return QString::fromStdString(name) == file;
     });
 }
 

@@ -1821,6 +1821,14 @@ Im AHCI-/Native-Modus ist nichts zu tun. Die Anwendung wird beendet.</translatio
         <source>Transform command failed</source>
         <translation>Umwandlungsbefehl fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
 </context>
 <context>
     <name>SK_diskSpareDialog</name>

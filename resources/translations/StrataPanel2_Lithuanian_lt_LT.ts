@@ -1819,6 +1819,14 @@ If running AHCI/Native mode, nothing needs to be done. Exiting application.</sou
         <source>Transform command failed</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SK_diskSpareDialog</name>

@@ -316,13 +316,15 @@ void TestArrayDialogs::createRefusalSendsNothing_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("answer");
     QTest::addColumn<QString>("message");
+    QTest::addColumn<QStringList>("buttons"); // as the box labels them
 
-    QTest::newRow("another array's name") << false << kVolumeRow << QList<int>{kNvme} << "Data"
-                                          << int(QMessageBox::Ok) << "Invalid name:";
+    QTest::newRow("another array's name")
+        << false << kVolumeRow << QList<int>{kNvme} << "Data" << int(QMessageBox::Ok)
+        << "Invalid name:" << QStringList{"OK"};
     // An unused SATA SSD beside the unused NVMe disk.
     QTest::newRow("declined drive mixing")
         << true << kRaid0Row << QList<int>{kNvme, 8} << "" << int(QMessageBox::No)
-        << "Warning: drive mixing detected!";
+        << "Warning: drive mixing detected!" << QStringList{"Yes", "No"};
 }
 
 void TestArrayDialogs::createRefusalSendsNothing()
@@ -333,6 +335,7 @@ void TestArrayDialogs::createRefusalSendsNothing()
     QFETCH(QString, name);
     QFETCH(int, answer);
     QFETCH(QString, message);
+    QFETCH(QStringList, buttons);
 
     EmulatedHostScope scope;
     if (sataSsd)
@@ -346,11 +349,16 @@ void TestArrayDialogs::createRefusalSendsNothing()
         widget<QLineEdit>(&dialog, "arrayNameInput")->setText(name);
     QVERIFY2(widget<QPushButton>(&dialog, "createButton")->isEnabled(),
              qPrintable(widget<QLabel>(&dialog, "createWarningLabel")->text()));
-    QStringList texts;
-    answerNextBox(QMessageBox::StandardButton(answer), &texts);
+    QStringList texts, labels;
+    answerNextBoxNoting(QMessageBox::StandardButton(answer), [&](QMessageBox *box) {
+        texts << box->text();
+        for (QAbstractButton *button : box->buttons())
+            labels << button->text();
+    });
     click(&dialog, "createButton");
 
     QCOMPARE(texts.size(), 1);
+    QCOMPARE(labels, buttons);
     QVERIFY2(texts.first().startsWith(message), qPrintable(texts.first()));
     QCOMPARE(dialog.result(), int(QDialog::Rejected));
     QCOMPARE(scope.host->model().arrays.size(), std::size_t(2));

@@ -33,6 +33,7 @@ private slots:
     void blinkArrayNamesEveryMemberInOneRequest();
     void hideAndUnhideChangeTheArray();
     void noDriverAnswersEmpty();
+    void driverNamesMatchExactly();
 };
 
 void tst_facade::lookupsFollowTheImage()
@@ -386,6 +387,15 @@ void tst_facade::noDriverAnswersEmpty()
     QVERIFY(!api.Rescan());
     QVERIFY(!api.HideArray(1));
     QVERIFY(api.GetArrayList().isEmpty());
+}
+
+// The loaded modules are compared with the file name exactly, case included.
+void tst_facade::driverNamesMatchExactly()
+{
+    Lab f;
+    QVERIFY(f->DriverIsLoaded(QStringLiteral("skraid.sys")));
+    QVERIFY(!f->DriverIsLoaded(QStringLiteral("SKRAID.SYS")));
+    QVERIFY(!f->DriverIsLoaded(QStringLiteral("skraid")));
 }
 
 QTEST_GUILESS_MAIN(tst_facade)
