@@ -226,25 +226,6 @@ Disk nvmeDisk(std::uint64_t id, std::uint32_t port, const char *serial, const Us
     return d;
 }
 
-Array array(std::uint64_t id, std::uint16_t route, const char *name, std::uint32_t type,
-            std::uint32_t first, std::uint32_t second, const std::vector<std::uint64_t> &disks,
-            std::uint64_t extent)
-{
-    Array a;
-    a.id = id;
-    a.route = route;
-    a.name = name;
-    a.layout.type = type;
-    a.layout.firstCount = first;
-    a.layout.secondCount = second;
-    for (std::uint64_t disk : disks)
-        a.layout.members.push_back(Member{disk, 0, extent, 0, extent, 0});
-    a.layout.capacity = layoutCapacity(type, first, second, extent, extent * disks.size());
-    a.generation = 1;
-    a.cachePolicy = code::CacheRead | code::CacheWrite;
-    return a;
-}
-
 } // namespace
 
 Model defaultScenario()
@@ -291,11 +272,11 @@ Model defaultScenario()
                nvmeDisk(nvme, 6, "S7HENJ0X308215L", {1873, 212, 38})};
     m.disks[5].globalSpare = true;
 
-    Array system = array(0x3C71A9E2D0045B11ull, 1, "System", code::TypeMirrorStripe, 1, 2,
-                         {ssdA, ssdB}, usableExtent(kSsd1TB));
+    Array system = plainArray(0x3C71A9E2D0045B11ull, 1, "System", code::TypeMirrorStripe, 1, 2,
+                              {ssdA, ssdB}, usableExtent(kSsd1TB));
     system.priority = 50;
-    Array data = array(0x3C71A9E2D0046E27ull, 2, "Data", code::TypeParity, 1, 3, {hdd1, hdd2, hdd3},
-                       usableExtent(kHdd4TB));
+    Array data = plainArray(0x3C71A9E2D0046E27ull, 2, "Data", code::TypeParity, 1, 3,
+                            {hdd1, hdd2, hdd3}, usableExtent(kHdd4TB));
     data.cachePolicy = code::CacheRead;
     data.generation = 4;
     m.arrays = {system, data};

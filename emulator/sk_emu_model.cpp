@@ -104,6 +104,25 @@ std::vector<Extent> freeExtents(const Model &model, const Disk &disk)
     return free;
 }
 
+Array plainArray(std::uint64_t id, std::uint16_t route, const char *name, std::uint32_t type,
+                 std::uint32_t first, std::uint32_t second, const std::vector<std::uint64_t> &disks,
+                 std::uint64_t extent)
+{
+    Array a;
+    a.id = id;
+    a.route = route;
+    a.name = name;
+    a.layout.type = type;
+    a.layout.firstCount = first;
+    a.layout.secondCount = second;
+    for (std::uint64_t disk : disks)
+        a.layout.members.push_back(Member{disk, 0, extent, 0, extent, 0});
+    a.layout.capacity = layoutCapacity(type, first, second, extent, extent * disks.size());
+    a.generation = 1;
+    a.cachePolicy = code::CacheRead | code::CacheWrite;
+    return a;
+}
+
 std::uint64_t layoutCapacity(std::uint32_t type, std::uint32_t firstCount,
                              std::uint32_t secondCount, std::uint64_t smallestMember,
                              std::uint64_t sumOfMembers)

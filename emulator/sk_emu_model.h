@@ -319,6 +319,12 @@ std::uint64_t layoutCapacity(std::uint32_t type, std::uint32_t firstCount,
                              std::uint32_t secondCount, std::uint64_t smallestMember,
                              std::uint64_t sumOfMembers);
 
+// An array of one layout whose members each give `extent` sectors from the start of
+// their disk, cached for reads and writes: the shape scenarios build their arrays from.
+Array plainArray(std::uint64_t id, std::uint16_t route, const char *name, std::uint32_t type,
+                 std::uint32_t first, std::uint32_t second, const std::vector<std::uint64_t> &disks,
+                 std::uint64_t extent);
+
 // How many members may fail before the layout loses data.
 std::uint32_t layoutTolerance(const Layout &layout);
 

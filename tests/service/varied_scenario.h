@@ -26,24 +26,6 @@ inline std::uint64_t diskIdOf(const Model &m, int disk)
     return 0;
 }
 
-inline Array simpleArray(std::uint64_t id, std::uint16_t route, const char *name,
-                         std::uint32_t type, std::uint32_t first, std::uint32_t second,
-                         std::vector<std::uint64_t> disks, std::uint64_t extent)
-{
-    Array a;
-    a.id = id;
-    a.route = route;
-    a.name = name;
-    a.layout.type = type;
-    a.layout.firstCount = first;
-    a.layout.secondCount = second;
-    for (std::uint64_t disk : disks)
-        a.layout.members.push_back(Member{disk, 0, extent, 0, extent, 0});
-    a.layout.capacity = layoutCapacity(type, first, second, extent, extent * disks.size());
-    a.cachePolicy = code::CacheRead | code::CacheWrite;
-    return a;
-}
-
 // The default workstation made varied: Data degraded by a failed member, a hidden
 // scratch array on the spare disk's extents, a mirror being transformed into a
 // RAID 5 (two layouts), a tier over two small arrays, a dedicated spare and a member
@@ -58,12 +40,12 @@ inline Model variedScenario()
     data.spares = {diskIdOf(m, kNvme)};
     m.disks[5].globalSpare = false;
 
-    Array scratch = simpleArray(0xB3, kScratch, "Scratch", code::TypeMirrorStripe, 1, 1,
-                                {diskIdOf(m, kSpare)}, extent);
+    Array scratch = plainArray(0xB3, kScratch, "Scratch", code::TypeMirrorStripe, 1, 1,
+                               {diskIdOf(m, kSpare)}, extent);
     scratch.attributes = code::AttributeHidden;
 
-    Array growing = simpleArray(0xB4, kGrowing, "Growing", code::TypeMirrorStripe, 2, 1,
-                                {diskIdOf(m, kSpare), 0}, extent);
+    Array growing = plainArray(0xB4, kGrowing, "Growing", code::TypeMirrorStripe, 2, 1,
+                               {diskIdOf(m, kSpare), 0}, extent);
     growing.layout.members[1].flags = code::MemberNotPresent;
     growing.target = growing.layout;
     growing.target->type = code::TypeParity;
@@ -72,10 +54,10 @@ inline Model variedScenario()
     growing.target->members.push_back(Member{diskIdOf(m, kHdd1), extent, extent, 0, extent, 0});
     growing.task = Task{code::TaskTransform, code::TaskStarted, 12000};
 
-    Array fast = simpleArray(0xB6, kFast, "Fast", code::TypeMirrorStripe, 1, 1,
-                             {diskIdOf(m, kSsdA)}, extent);
-    Array slow = simpleArray(0xB7, kSlow, "Slow", code::TypeMirrorStripe, 1, 1,
-                             {diskIdOf(m, kHdd2)}, extent);
+    Array fast =
+        plainArray(0xB6, kFast, "Fast", code::TypeMirrorStripe, 1, 1, {diskIdOf(m, kSsdA)}, extent);
+    Array slow =
+        plainArray(0xB7, kSlow, "Slow", code::TypeMirrorStripe, 1, 1, {diskIdOf(m, kHdd2)}, extent);
     Array tier;
     tier.id = 0xB5;
     tier.route = kTier;
