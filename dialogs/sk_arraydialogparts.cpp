@@ -150,6 +150,23 @@ void finishDiskList(QTreeWidget *list, int narrowColumn)
     list->setRootIsDecorated(false);
 }
 
+bool inDiskGroup(const SK_RaidApi &api, int diskId, DiskGroup group)
+{
+    switch (group) {
+    case DiskGroup::All:
+        return true;
+    case DiskGroup::Nvme:
+        return api.IsNvmeDisk(diskId);
+    case DiskGroup::HardDisk:
+        return !api.IsFlashDisk(diskId);
+    case DiskGroup::SataSsd:
+        return api.IsFlashDisk(diskId) && !api.IsNvmeDisk(diskId);
+    case DiskGroup::Unused:
+        return api.DiskUseCount(diskId) < 1;
+    }
+    return false;
+}
+
 void checkRowsWhere(QTreeWidget *list, const std::function<bool(int)> &wanted)
 {
     for (QTreeWidgetItemIterator it(list); *it; ++it) {

@@ -44,6 +44,10 @@ QTreeWidgetItem *addDiskRow(SK_RaidApi &api, QTreeWidget *list, int diskIndex, b
 // Columns sized to their contents, the hot swap column kept narrow, sorted by disk.
 void finishDiskList(QTreeWidget *list, int narrowColumn);
 
+// The groups the selection buttons tick at once.
+enum class DiskGroup { All, Nvme, HardDisk, SataSsd, Unused };
+bool inDiskGroup(const SK_RaidApi &api, int diskId, DiskGroup group);
+
 // Sets every row's check mark by `wanted(diskId)`.
 void checkRowsWhere(QTreeWidget *list, const std::function<bool(int)> &wanted);
 int checkedRowCount(QTreeWidget *list);

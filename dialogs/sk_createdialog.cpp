@@ -1,7 +1,7 @@
 #include "dialogs/sk_createdialog.h"
-#include "dialogs/sk_questions.h"
 
 #include "dialogs/sk_arraydialogparts.h"
+#include "dialogs/sk_questions.h"
 #include "dialogs/sk_treeitems.h"
 #include "service/sk_applog.h"
 #include "service/sk_raidapi.h"
@@ -281,39 +281,40 @@ void SK_CreateDialog::createButton_clicked()
     accept();
 }
 
-void SK_CreateDialog::checkDisksWhere(const std::function<bool(int)> &wanted)
+void SK_CreateDialog::checkDisks(SK_ArrayDialogParts::DiskGroup group)
 {
     {
         // One judgement for the whole selection instead of one per row.
         const QSignalBlocker quiet(ui->diskList);
-        checkRowsWhere(ui->diskList, wanted);
+        checkRowsWhere(ui->diskList,
+                       [this, group](int id) { return inDiskGroup(*api, id, group); });
     }
     diskList_itemChanged(nullptr, 0);
 }
 
 void SK_CreateDialog::allButton_clicked()
 {
-    checkDisksWhere([](int) { return true; });
+    checkDisks(DiskGroup::All);
 }
 
 void SK_CreateDialog::allNvmeButton_clicked()
 {
-    checkDisksWhere([this](int id) { return api->IsNvmeDisk(id); });
+    checkDisks(DiskGroup::Nvme);
 }
 
 void SK_CreateDialog::allHddButton_clicked()
 {
-    checkDisksWhere([this](int id) { return !api->IsFlashDisk(id); });
+    checkDisks(DiskGroup::HardDisk);
 }
 
 void SK_CreateDialog::allSataSsdButton_clicked()
 {
-    checkDisksWhere([this](int id) { return api->IsFlashDisk(id) && !api->IsNvmeDisk(id); });
+    checkDisks(DiskGroup::SataSsd);
 }
 
 void SK_CreateDialog::unusedButton_clicked()
 {
-    checkDisksWhere([this](int id) { return api->DiskUseCount(id) < 1; });
+    checkDisks(DiskGroup::Unused);
 }
 
 void SK_CreateDialog::diskList_itemChanged(QTreeWidgetItem *, int)

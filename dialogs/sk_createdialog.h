@@ -16,6 +16,9 @@ class SK_CreateDialog;
 }
 class QTreeWidgetItem;
 class SK_RaidApi;
+namespace SK_ArrayDialogParts {
+enum class DiskGroup;
+}
 
 class SK_CreateDialog : public QDialog
 {
@@ -54,7 +57,7 @@ private:
     void drawArrayView(const SK_Create &params);
     int checkedDiskCount() const;
     // Sets every row's check mark by `wanted(diskId)` and judges the new selection once.
-    void checkDisksWhere(const std::function<bool(int)> &wanted);
+    void checkDisks(SK_ArrayDialogParts::DiskGroup group);
 
     SK_RaidApi *api = nullptr; // the window's service
     std::unique_ptr<Ui::SK_CreateDialog> ui;

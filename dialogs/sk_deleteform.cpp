@@ -1,8 +1,8 @@
 #include "dialogs/sk_deleteform.h"
-#include "dialogs/sk_questions.h"
 
 #include "dialogs/sk_arraylistparts.h"
 #include "dialogs/sk_diskdialogparts.h"
+#include "dialogs/sk_questions.h"
 #include "dialogs/sk_treeitems.h"
 #include "service/service.h"
 #include "ui_sk_deleteform.h"

@@ -1,6 +1,6 @@
 #include "dialogs/sk_disksparedialog.h"
-#include "dialogs/sk_questions.h"
 
+#include "dialogs/sk_questions.h"
 #include "service/service.h"
 #include "ui_sk_disksparedialog.h"
 

@@ -1,7 +1,7 @@
 #include "dialogs/sk_transformdialog.h"
-#include "dialogs/sk_questions.h"
 
 #include "dialogs/sk_arraydialogparts.h"
+#include "dialogs/sk_questions.h"
 #include "dialogs/sk_treeitems.h"
 #include "service/sk_raidapi.h"
 #include "ui_sk_transformdialog.h"
@@ -301,38 +301,39 @@ void SK_TransformDialog::on_sameButton_clicked()
     isValidTransformConfig();
 }
 
-void SK_TransformDialog::checkDisksWhere(const std::function<bool(int)> &wanted)
+void SK_TransformDialog::checkDisks(SK_ArrayDialogParts::DiskGroup group)
 {
     {
         const QSignalBlocker quiet(ui->diskList);
-        checkRowsWhere(ui->diskList, wanted);
+        checkRowsWhere(ui->diskList,
+                       [this, group](int id) { return inDiskGroup(*api, id, group); });
     }
     tranformDiskList_itemChanged(nullptr, 0);
 }
 
 void SK_TransformDialog::selectAllButton_clicked()
 {
-    checkDisksWhere([](int) { return true; });
+    checkDisks(DiskGroup::All);
 }
 
 void SK_TransformDialog::on_unusedButton_clicked()
 {
-    checkDisksWhere([this](int id) { return api->DiskUseCount(id) < 1; });
+    checkDisks(DiskGroup::Unused);
 }
 
 void SK_TransformDialog::on_selectAllHddButton_clicked()
 {
-    checkDisksWhere([this](int id) { return !api->IsFlashDisk(id); });
+    checkDisks(DiskGroup::HardDisk);
 }
 
 void SK_TransformDialog::on_selectAllSataSsdButton_clicked()
 {
-    checkDisksWhere([this](int id) { return api->IsFlashDisk(id) && !api->IsNvmeDisk(id); });
+    checkDisks(DiskGroup::SataSsd);
 }
 
 void SK_TransformDialog::on_selectAllNVMeButton_clicked()
 {
-    checkDisksWhere([this](int id) { return api->IsNvmeDisk(id); });
+    checkDisks(DiskGroup::Nvme);
 }
 
 bool SK_TransformDialog::SourceHasHotswapDevices()

@@ -16,6 +16,9 @@ class SK_TransformDialog;
 }
 class QTreeWidgetItem;
 class SK_RaidApi;
+namespace SK_ArrayDialogParts {
+enum class DiskGroup;
+}
 
 class SK_TransformDialog : public QDialog
 {
@@ -53,7 +56,7 @@ private slots:
 private:
     void rebuildOrganizedAs();
     // Sets every row's check mark by `wanted(diskId)` and judges the new selection once.
-    void checkDisksWhere(const std::function<bool(int)> &wanted);
+    void checkDisks(SK_ArrayDialogParts::DiskGroup group);
     bool ask(const QString &title, const QString &question);
 
     SK_RaidApi *api = nullptr; // the window's service
