@@ -1,6 +1,7 @@
 #include "dialogs/sk_clearmetadatadialog.h"
 
 #include "dialogs/sk_diskdialogparts.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_clearmetadatadialog.h"
 
@@ -22,12 +23,12 @@ SK_ClearMetadataDialog::SK_ClearMetadataDialog(SK_RaidApi &service, QWidget *par
     ui->setupUi(this);
     setupClearMetadataMenu();
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
-    restoreWindowState(this, ui->diskListTree, kGeometryKey, kHeaderKey);
+    SK_WindowState::restore(this, kGeometryKey, {{ui->diskListTree, kHeaderKey}});
 }
 
 SK_ClearMetadataDialog::~SK_ClearMetadataDialog()
 {
-    saveWindowState(this, ui->diskListTree, kGeometryKey, kHeaderKey);
+    SK_WindowState::save(this, kGeometryKey, {{ui->diskListTree, kHeaderKey}});
 }
 
 void SK_ClearMetadataDialog::setupClearMetadataMenu()

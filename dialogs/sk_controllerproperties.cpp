@@ -1,12 +1,12 @@
 #include "dialogs/sk_controllerproperties.h"
 
 #include "dialogs/sk_treeitems.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_controllerproperties.h"
 
 #include <QHeaderView>
 #include <QIcon>
-#include <QSettings>
 
 namespace {
 
@@ -61,17 +61,12 @@ sk_ControllerProperties::sk_ControllerProperties(SK_RaidApi &service, QWidget *p
     ui->okPushButton->setText(tr("OK"));
     setupControllerList();
 
-    QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(kGeometryKey), geometry()).toByteArray());
-    ui->controllerList->header()->restoreState(
-        settings.value(QLatin1String(kHeaderKey)).toByteArray());
+    SK_WindowState::restore(this, kGeometryKey, {{ui->controllerList, kHeaderKey}});
 }
 
 sk_ControllerProperties::~sk_ControllerProperties()
 {
-    QSettings settings;
-    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
-    settings.setValue(QLatin1String(kHeaderKey), ui->controllerList->header()->saveState());
+    SK_WindowState::save(this, kGeometryKey, {{ui->controllerList, kHeaderKey}});
 }
 
 void sk_ControllerProperties::setupControllerList()

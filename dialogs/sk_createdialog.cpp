@@ -3,6 +3,7 @@
 #include "dialogs/sk_arraydialogparts.h"
 #include "dialogs/sk_questions.h"
 #include "dialogs/sk_treeitems.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/sk_applog.h"
 #include "service/sk_raidapi.h"
 #include "ui_sk_createdialog.h"
@@ -12,7 +13,6 @@
 #include <QIntValidator>
 #include <QMessageBox>
 #include <QScreen>
-#include <QSettings>
 #include <QSignalBlocker>
 
 using namespace SK_ArrayDialogParts;
@@ -49,9 +49,7 @@ SK_CreateDialog::SK_CreateDialog(SK_RaidApi &service, QSize size, QWidget *paren
     ui->diskList->setItemDelegate(new CustomDelegate(ui->diskList));
     ui->createArrayView->setItemDelegate(new CustomDelegate(ui->createArrayView));
 
-    QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
-    ui->diskList->header()->restoreState(settings.value(QLatin1String(kHeaderKey)).toByteArray());
+    SK_WindowState::restore(this, kGeometryKey, {{ui->diskList, kHeaderKey}});
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {
         const QSize available = screen->size();
@@ -65,9 +63,7 @@ SK_CreateDialog::SK_CreateDialog(SK_RaidApi &service, QSize size, QWidget *paren
 
 SK_CreateDialog::~SK_CreateDialog()
 {
-    QSettings settings;
-    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
-    settings.setValue(QLatin1String(kHeaderKey), ui->diskList->header()->saveState());
+    SK_WindowState::save(this, kGeometryKey, {{ui->diskList, kHeaderKey}});
 }
 
 void SK_CreateDialog::fillCombos()

@@ -4,6 +4,7 @@
 #include "dialogs/sk_diskdialogparts.h"
 #include "dialogs/sk_questions.h"
 #include "dialogs/sk_treeitems.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_deleteform.h"
 
@@ -34,12 +35,12 @@ SK_DeleteForm::SK_DeleteForm(SK_RaidApi &service, QWidget *parent)
     api->RefreshConfig();
     ui->setupUi(this);
     setupDelArrayMenu();
-    SK_DiskDialogParts::restoreWindowState(this, ui->arrayList, kGeometryKey, kHeaderKey);
+    SK_WindowState::restore(this, kGeometryKey, {{ui->arrayList, kHeaderKey}});
 }
 
 SK_DeleteForm::~SK_DeleteForm()
 {
-    SK_DiskDialogParts::saveWindowState(this, ui->arrayList, kGeometryKey, kHeaderKey);
+    SK_WindowState::save(this, kGeometryKey, {{ui->arrayList, kHeaderKey}});
 }
 
 void SK_DeleteForm::setupDelArrayMenu()

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
-#include <QSettings>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -116,23 +115,6 @@ void fitColumns(QTreeWidget *list, int count)
         list->resizeColumnToContents(column);
         list->setColumnWidth(column, list->columnWidth(column) + 5);
     }
-}
-
-void restoreWindowState(QWidget *dialog, QTreeWidget *list, const char *geometryKey,
-                        const char *headerKey)
-{
-    QSettings settings;
-    dialog->restoreGeometry(
-        settings.value(QLatin1String(geometryKey), dialog->geometry()).toByteArray());
-    list->header()->restoreState(settings.value(QLatin1String(headerKey)).toByteArray());
-}
-
-void saveWindowState(const QWidget *dialog, const QTreeWidget *list, const char *geometryKey,
-                     const char *headerKey)
-{
-    QSettings settings;
-    settings.setValue(QLatin1String(geometryKey), dialog->saveGeometry());
-    settings.setValue(QLatin1String(headerKey), list->header()->saveState());
 }
 
 } // namespace SK_DiskDialogParts

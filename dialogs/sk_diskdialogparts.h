@@ -29,10 +29,4 @@ void tickAll(QTreeWidget *list);
 // Widens each of the first `count` columns to its contents plus a little air.
 void fitColumns(QTreeWidget *list, int count);
 
-// A first run finds nothing and keeps the form's size.
-void restoreWindowState(QWidget *dialog, QTreeWidget *list, const char *geometryKey,
-                        const char *headerKey);
-void saveWindowState(const QWidget *dialog, const QTreeWidget *list, const char *geometryKey,
-                     const char *headerKey);
-
 } // namespace SK_DiskDialogParts

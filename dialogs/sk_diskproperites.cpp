@@ -1,6 +1,7 @@
 #include "dialogs/sk_diskproperites.h"
 
 #include "dialogs/sk_diskdialogparts.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_diskproperites.h"
 
@@ -43,12 +44,12 @@ SK_DiskProperites::SK_DiskProperites(SK_RaidApi &service, QWidget *parent)
     ui->splitter->setSizes({80, 70});
     setupDiskPropsMenu();
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
-    restoreWindowState(this, ui->diskListTree, kGeometryKey, kHeaderKey);
+    SK_WindowState::restore(this, kGeometryKey, {{ui->diskListTree, kHeaderKey}});
 }
 
 SK_DiskProperites::~SK_DiskProperites()
 {
-    saveWindowState(this, ui->diskListTree, kGeometryKey, kHeaderKey);
+    SK_WindowState::save(this, kGeometryKey, {{ui->diskListTree, kHeaderKey}});
 }
 
 void SK_DiskProperites::setupDiskPropsMenu()

@@ -1,6 +1,7 @@
 #include "dialogs/sk_initdisksdialog.h"
 
 #include "dialogs/sk_diskdialogparts.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_initdisksdialog.h"
 
@@ -23,12 +24,12 @@ SK_initDisksDialog::SK_initDisksDialog(SK_RaidApi &service, QWidget *parent)
     setupInitDisksMenu();
     ui->initSelectedButton->setEnabled(false);
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
-    restoreWindowState(this, ui->diskListTree, kGeometryKey, kHeaderKey);
+    SK_WindowState::restore(this, kGeometryKey, {{ui->diskListTree, kHeaderKey}});
 }
 
 SK_initDisksDialog::~SK_initDisksDialog()
 {
-    saveWindowState(this, ui->diskListTree, kGeometryKey, kHeaderKey);
+    SK_WindowState::save(this, kGeometryKey, {{ui->diskListTree, kHeaderKey}});
 }
 
 void SK_initDisksDialog::setupInitDisksMenu()

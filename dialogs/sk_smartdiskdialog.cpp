@@ -1,6 +1,7 @@
 #include "dialogs/sk_smartdiskdialog.h"
 
 #include "dialogs/sk_treeitems.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_smartdiskdialog.h"
 
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QIcon>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTreeWidgetItemIterator>
 #include <QUrl>
@@ -67,17 +67,13 @@ SK_SmartDiskDialog::SK_SmartDiskDialog(SK_RaidApi &service, QWidget *parent)
     ui->smartButton->setText(tr("Query Selected S.M.A.R.T. Data"));
     setupSmartList();
 
-    QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(kGeometryKey), geometry()).toByteArray());
-    ui->diskList->header()->restoreState(settings.value(QLatin1String(kHeaderKey)).toByteArray());
+    SK_WindowState::restore(this, kGeometryKey, {{ui->diskList, kHeaderKey}});
     ui->diskList->header()->setSectionsClickable(true);
 }
 
 SK_SmartDiskDialog::~SK_SmartDiskDialog()
 {
-    QSettings settings;
-    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
-    settings.setValue(QLatin1String(kHeaderKey), ui->diskList->header()->saveState());
+    SK_WindowState::save(this, kGeometryKey, {{ui->diskList, kHeaderKey}});
 }
 
 void SK_SmartDiskDialog::setupSmartList()

@@ -2,6 +2,7 @@
 
 #include "dialogs/sk_arraylistparts.h"
 #include "dialogs/sk_treeitems.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/service.h"
 #include "ui_sk_tieringdialog.h"
 
@@ -10,7 +11,6 @@
 #include <QHeaderView>
 #include <QIcon>
 #include <QMessageBox>
-#include <QSettings>
 #include <QSignalBlocker>
 
 namespace {
@@ -35,20 +35,15 @@ SK_TieringDialog::SK_TieringDialog(SK_RaidApi &service, QWidget *parent)
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     initTieringForm();
 
-    QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(kGeometryKey), geometry()).toByteArray());
-    ui->hotArrayList->header()->restoreState(
-        settings.value(QLatin1String(kHotHeaderKey)).toByteArray());
-    ui->coldArrayList->header()->restoreState(
-        settings.value(QLatin1String(kColdHeaderKey)).toByteArray());
+    SK_WindowState::restore(
+        this, kGeometryKey,
+        {{ui->hotArrayList, kHotHeaderKey}, {ui->coldArrayList, kColdHeaderKey}});
 }
 
 SK_TieringDialog::~SK_TieringDialog()
 {
-    QSettings settings;
-    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
-    settings.setValue(QLatin1String(kHotHeaderKey), ui->hotArrayList->header()->saveState());
-    settings.setValue(QLatin1String(kColdHeaderKey), ui->coldArrayList->header()->saveState());
+    SK_WindowState::save(this, kGeometryKey,
+                         {{ui->hotArrayList, kHotHeaderKey}, {ui->coldArrayList, kColdHeaderKey}});
 }
 
 void SK_TieringDialog::initTieringForm()

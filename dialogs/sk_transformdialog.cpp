@@ -3,6 +3,7 @@
 #include "dialogs/sk_arraydialogparts.h"
 #include "dialogs/sk_questions.h"
 #include "dialogs/sk_treeitems.h"
+#include "dialogs/sk_windowstate.h"
 #include "service/sk_raidapi.h"
 #include "ui_sk_transformdialog.h"
 
@@ -11,7 +12,6 @@
 #include <QIntValidator>
 #include <QMessageBox>
 #include <QScreen>
-#include <QSettings>
 #include <QSignalBlocker>
 
 #include <cmath>
@@ -68,9 +68,7 @@ SK_TransformDialog::SK_TransformDialog(SK_RaidApi &service, int id, QSize size, 
     ui->sourceArrayView->setItemDelegate(new CustomDelegate(ui->sourceArrayView));
     ui->dstArrayView->setItemDelegate(new CustomDelegate(ui->dstArrayView));
 
-    QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
-    ui->diskList->header()->restoreState(settings.value(QLatin1String(kHeaderKey)).toByteArray());
+    SK_WindowState::restore(this, kGeometryKey, {{ui->diskList, kHeaderKey}});
     setWindowIcon(QIcon(QStringLiteral(":images/icons/Logo.ico")));
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {
         const QSize available = screen->size();
@@ -82,9 +80,7 @@ SK_TransformDialog::SK_TransformDialog(SK_RaidApi &service, int id, QSize size, 
 
 SK_TransformDialog::~SK_TransformDialog()
 {
-    QSettings settings;
-    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
-    settings.setValue(QLatin1String(kHeaderKey), ui->diskList->header()->saveState());
+    SK_WindowState::save(this, kGeometryKey, {{ui->diskList, kHeaderKey}});
 }
 
 QString SK_TransformDialog::getArrayType(int row)
