@@ -31,11 +31,6 @@ enum DiskColumn {
     ColTrim
 };
 
-QString fixedText(const char *field, std::size_t size)
-{
-    return QString::fromLatin1(field, static_cast<int>(qstrnlen(field, size)));
-}
-
 void setCell(QTreeWidgetItem *item, int column, const QString &text, const QVariant &sortKey)
 {
     item->setText(column, text);
@@ -122,11 +117,10 @@ QTreeWidgetItem *addDiskRow(SK_RaidApi &api, QTreeWidget *list, int diskIndex, b
     if (withTrim)
         setTextCell(item, column++, trimText(api, id));
     setTextCell(item, column++, yesNo(api.DiskHasHotSwap(id)));
-    setTextCell(item, column++, fixedText(disk->Model, sizeof disk->Model).trimmed());
+    setTextCell(item, column++, SK_FieldText(disk->Model).trimmed());
     setTextCell(item, column++, api.SerialText(diskIndex));
     setTextCell(item, column++,
-                fixedText(disk->FirmwareRevision, sizeof disk->FirmwareRevision)
-                    .replace(QLatin1Char('_'), QLatin1Char(' ')));
+                SK_FieldText(disk->FirmwareRevision).replace(QLatin1Char('_'), QLatin1Char(' ')));
 
     const bool nvme = api.IsNvmeDisk(id);
     const bool flash = api.IsFlashDisk(id);

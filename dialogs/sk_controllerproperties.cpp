@@ -32,11 +32,6 @@ enum Column {
     ColumnCount
 };
 
-QString fixedText(const char *field, std::size_t size)
-{
-    return QString::fromLatin1(field, static_cast<int>(qstrnlen(field, uint(size))));
-}
-
 QString hexText(quint32 value)
 {
     return QStringLiteral("0x%1").arg(value, 0, 16);
@@ -86,7 +81,7 @@ void sk_ControllerProperties::setupControllerList()
         auto *row = new MyTreeWidgetItem();
         row->setText(NumberColumn, QString::number(controller->Number));
         row->setData(NumberColumn, SK_Role::SortKey, controller->Number);
-        setCell(row, TypeColumn, fixedText(controller->Name, sizeof controller->Name).trimmed());
+        setCell(row, TypeColumn, SK_FieldText(controller->Name).trimmed());
         setCell(row, PortCountColumn, QString::number(controller->NumberOfPorts));
         // The original ids name the chip when a board maker has re-badged it.
         setCell(row, VendorColumn,
@@ -106,14 +101,14 @@ void sk_ControllerProperties::setupControllerList()
 
         for (int d = 0; d < disks; ++d) {
             const SK_ConfigDisk *disk = api->GetDiskRecord(d);
-            if (!disk || fixedText(disk->Type, sizeof disk->Type) == QLatin1String("Core") ||
+            if (!disk || SK_FieldText(disk->Type) == QLatin1String("Core") ||
                 disk->ControllerNumber != controller->Number)
                 continue;
             const QString key =
                 QString::number(disk->ControllerNumber + disk->Channel / 10.0, 'g', 6);
             const QString port =
                 QStringLiteral("%1 %2").arg(disk->ControllerNumber).arg(disk->Channel);
-            const QString model = fixedText(disk->Model, sizeof disk->Model).trimmed();
+            const QString model = SK_FieldText(disk->Model).trimmed();
             // A one-port controller is its disk; others list theirs below. The row keeps
             // the sort keys of the last disk either way.
             QTreeWidgetItem *target =

@@ -9,21 +9,6 @@
 
 namespace SK_DiskDialogParts {
 
-namespace {
-
-QString field(const char *text, std::size_t size)
-{
-    return QString::fromLatin1(text, static_cast<int>(qstrnlen(text, static_cast<uint>(size))));
-}
-
-template <std::size_t N>
-QString field(const char (&text)[N])
-{
-    return field(text, N);
-}
-
-} // namespace
-
 QString portLabel(const SK_ConfigDisk &disk)
 {
     return QString::number(disk.ControllerNumber) + QLatin1Char(' ') +
@@ -50,14 +35,14 @@ bool fillInitialiseList(SK_RaidApi &api, QTreeWidget *list, bool clearMetadata)
     bool anyUnknown = false;
     for (int index = 0; index < api.GetDiskCount(); ++index) {
         const SK_ConfigDisk *disk = api.GetDiskRecord(index);
-        if (!disk || field(disk->Type) == QLatin1String("Core"))
+        if (!disk || SK_FieldText(disk->Type) == QLatin1String("Core"))
             continue;
         const int id = api.GetDiskIdByPort(disk->ControllerNumber, disk->Channel);
         if (!api.DiskCanBeInitialized(id, clearMetadata))
             continue;
         if (!clearMetadata && api.DiskIsGlobalSpare(id))
             continue;
-        const QString type = field(disk->Type);
+        const QString type = SK_FieldText(disk->Type);
         const bool unknown = type == QLatin1String("Unknown");
         anyUnknown |= unknown;
 
@@ -65,13 +50,13 @@ bool fillInitialiseList(SK_RaidApi &api, QTreeWidget *list, bool clearMetadata)
         row->setText(0, portLabel(*disk));
         row->setCheckState(0, Qt::Unchecked);
         row->setData(0, Qt::UserRole, id);
-        row->setText(1, field(disk->State));
+        row->setText(1, SK_FieldText(disk->State));
         row->setText(2, unknown && !clearMetadata
                             ? QCoreApplication::translate("SK_initDisksDialog", "New")
                             : type);
         row->setText(3, QString::number(api.DiskUseCount(id)));
         row->setText(4, SK_RaidApi::CapacityText(static_cast<qint64>(disk->TotalFreeSpace)));
-        row->setText(5, field(disk->Model).trimmed());
+        row->setText(5, SK_FieldText(disk->Model).trimmed());
         row->setText(6, api.SerialText(index));
     }
     fitColumns(list, 6);

@@ -17,17 +17,6 @@ namespace {
 constexpr char kGeometryKey[] = "diskPropWindowGeometry";
 constexpr char kHeaderKey[] = "diskPropListHeaderState";
 
-QString field(const char *text, std::size_t size)
-{
-    return QString::fromLatin1(text, static_cast<int>(qstrnlen(text, static_cast<uint>(size))));
-}
-
-template <std::size_t N>
-QString field(const char (&text)[N])
-{
-    return field(text, N);
-}
-
 bool isSmartCommand(diskManageCMD command)
 {
     return command == smartEnable || command == smartDisable;
@@ -68,7 +57,7 @@ void SK_DiskProperites::setupDiskPropsMenu()
     const auto onOff = [this](bool on) { return on ? tr("Enabled") : tr("Disabled"); };
     for (int index = 0; index < api->GetDiskCount(); ++index) {
         const SK_ConfigDisk *disk = api->GetDiskRecord(index);
-        if (!disk || field(disk->Type) == QLatin1String("Core"))
+        if (!disk || SK_FieldText(disk->Type) == QLatin1String("Core"))
             continue;
         const int id = api->GetDiskIdByPort(disk->ControllerNumber, disk->Channel);
         const uint uid = static_cast<uint>(id);
@@ -76,15 +65,16 @@ void SK_DiskProperites::setupDiskPropsMenu()
         row->setText(0, portLabel(*disk));
         row->setCheckState(0, selectedDisks.contains(row->text(0)) ? Qt::Checked : Qt::Unchecked);
         row->setData(0, Qt::UserRole, id);
-        row->setText(1, field(disk->State));
+        row->setText(1, SK_FieldText(disk->State));
         row->setText(2, onOff(writeCacheEnabled(uid)));
         row->setText(3, onOff(readCacheEnabled(uid)));
         row->setText(4, onOff(smartEnabled(uid)));
         row->setText(5, QString::number(api->DiskUseCount(id)));
         row->setText(6, api->PortTypeText(index));
-        row->setText(7, field(disk->Model).trimmed());
+        row->setText(7, SK_FieldText(disk->Model).trimmed());
         row->setText(8, api->SerialText(index));
-        row->setText(9, field(disk->FirmwareRevision).replace(QLatin1Char('_'), QLatin1Char(' ')));
+        row->setText(
+            9, SK_FieldText(disk->FirmwareRevision).replace(QLatin1Char('_'), QLatin1Char(' ')));
     }
     // Widths follow the contents once; later redraws keep what the user made of them.
     if (firstFill) {

@@ -35,11 +35,6 @@ enum Column {
     ColumnCount
 };
 
-QString fixedText(const char *field, std::size_t size)
-{
-    return QString::fromLatin1(field, static_cast<int>(qstrnlen(field, uint(size))));
-}
-
 // The application's own folder below the system's temporary folder, made if missing.
 QDir appTempFolder()
 {
@@ -88,7 +83,7 @@ void SK_SmartDiskDialog::setupSmartList()
     const int count = api->GetDiskCount();
     for (int index = 0; index < count; ++index) {
         const SK_ConfigDisk *disk = api->GetDiskRecord(index);
-        if (!disk || fixedText(disk->Type, sizeof disk->Type) == QLatin1String("Core"))
+        if (!disk || SK_FieldText(disk->Type) == QLatin1String("Core"))
             continue;
         auto *row = new MyTreeWidgetItem(list);
         const auto set = [row](int column, const QString &text, const QVariant &key) {
@@ -107,11 +102,11 @@ void SK_SmartDiskDialog::setupSmartList()
             QVariant::fromValue<quint64>(disk->Capacity));
         const QString uses = QString::number(api->DiskUseCount(disk->Device));
         set(UsesColumn, uses, uses);
-        const QString model = fixedText(disk->Model, sizeof disk->Model);
+        const QString model = SK_FieldText(disk->Model);
         set(ModelColumn, model.trimmed(), model);
         const QString serial = api->SerialText(index);
         set(SerialColumn, serial, serial);
-        const QString firmware = fixedText(disk->FirmwareRevision, sizeof disk->FirmwareRevision);
+        const QString firmware = SK_FieldText(disk->FirmwareRevision);
         set(FirmwareColumn, QString(firmware).replace(QLatin1Char('_'), QLatin1Char(' ')),
             firmware);
 

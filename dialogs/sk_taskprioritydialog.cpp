@@ -36,8 +36,8 @@ void SK_TaskPriorityDialog::initTaskPriorityDialog()
         return;
     const int current = SK_RaidApi::TaskPriorityLevel(array->TaskPriority);
     const QString name = QString::fromLocal8Bit(array->DisplayName);
-    const QString task = SK_ArrayListParts::taskText("SK_TaskPriorityDialog",
-                                                     QString::fromLatin1(array->TransformType));
+    const QString task =
+        SK_ArrayListParts::taskText("SK_TaskPriorityDialog", SK_FieldText(array->TransformType));
 
     QSlider *slider = ui->prioritySlider;
     slider->setMaximum(10);

@@ -30,11 +30,6 @@ constexpr int kSizeNotPossibleRow = 33;
 const char *const kGeometryKey = "transformWindowGeometry";
 const char *const kHeaderKey = "transformDiskListHeaderState";
 
-QString fixedText(const char *field, std::size_t size)
-{
-    return QString::fromLatin1(field, static_cast<int>(qstrnlen(field, size)));
-}
-
 int memberCount(const SK_ConfigArray &array)
 {
     const int count = array.FirstCount * array.SecondCount;
@@ -159,12 +154,12 @@ void SK_TransformDialog::setupSourceArrayView()
         return;
     const SK_ConfigArray array = *found;
     QString title = tr("Array ") + QString::number(arrayId);
-    const QString name = fixedText(array.DisplayName, sizeof array.DisplayName);
+    const QString name = SK_FieldText(array.DisplayName);
     if (name != QLatin1String("NONE"))
         title += QLatin1Char(' ') + name;
     auto *root = new QTreeWidgetItem(ui->sourceArrayView, QStringList(title));
     root->setIcon(0, QIcon(QStringLiteral(":images/icons/small_array.png")));
-    const QString type = fixedText(array.Type, sizeof array.Type);
+    const QString type = SK_FieldText(array.Type);
     auto *typeItem = new QTreeWidgetItem(root, QStringList(type));
     typeItem->setIcon(
         0, QIcon(QStringLiteral(":images/icons/small_normal") + type + QStringLiteral(".png")));
@@ -214,7 +209,7 @@ bool SK_TransformDialog::isValidTransformConfig()
         return false;
     // A copy: the query below re-reads the picture the record lives in.
     const SK_ConfigArray array = *found;
-    params.name = fixedText(array.DisplayName, sizeof array.DisplayName);
+    params.name = SK_FieldText(array.DisplayName);
 
     int max = api->TransformArray(params, arrayId, true);
     const qint32 size = params.size;
@@ -289,8 +284,7 @@ void SK_TransformDialog::on_sameButton_clicked()
         const QSignalBlocker quietType(ui->arrayTypeSel);
         const QSignalBlocker quietList(ui->diskList);
         ui->capInput->setText(QString::number(convertSizeToMB(array.Capacity)));
-        ui->arrayTypeSel->setCurrentIndex(
-            getArrayTypeIdx(fixedText(array.Type, sizeof array.Type)));
+        ui->arrayTypeSel->setCurrentIndex(getArrayTypeIdx(SK_FieldText(array.Type)));
         checkRowsWhere(ui->diskList, [&members](int id) { return members.contains(id); });
     }
     rebuildOrganizedAs();

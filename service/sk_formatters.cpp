@@ -168,18 +168,16 @@ QString SK_RaidApi::SerialText(int index) const
     const SK_ConfigDisk *record = index < 0 ? nullptr : GetDiskRecord(index);
     if (!record)
         return QStringLiteral(" ??");
-    const QByteArray field(
-        record->SerialNumber,
-        static_cast<int>(qstrnlen(record->SerialNumber, sizeof record->SerialNumber)));
+    const QString serial = SK_FieldText(record->SerialNumber);
     // Drives pad their serial numbers at the end with underscores, some at the front
     // with blanks.
-    int end = field.size();
-    while (end > 0 && field.at(end - 1) == '_')
+    int end = serial.size();
+    while (end > 0 && serial.at(end - 1) == QLatin1Char('_'))
         --end;
     int begin = 0;
-    while (begin < end && field.at(begin) == ' ')
+    while (begin < end && serial.at(begin) == QLatin1Char(' '))
         ++begin;
-    return QString::fromLatin1(field.constData() + begin, end - begin);
+    return serial.mid(begin, end - begin);
 }
 
 QString SK_RaidApi::PortTypeText(int index) const

@@ -492,7 +492,7 @@ bool SK_RaidApi::TypeIsRedundant(const QString &type)
 bool SK_RaidApi::ArrayIsRedundant(int array) const
 {
     const SK_ConfigArray *record = GetArrayRecord(array, true);
-    return record && TypeIsRedundant(QString::fromLatin1(record->Type));
+    return record && TypeIsRedundant(SK_FieldText(record->Type));
 }
 
 bool SK_RaidApi::TypeIsNested(const QString &type)

@@ -5,8 +5,17 @@
 #include "config/config.h"
 #include "events/events.h"
 
+#include <QByteArray>
 #include <QMetaType>
 #include <QString>
+
+// A fixed-width text field of a record: up to its first zero byte and never past its
+// end, since the drivers fill a field to the last byte without a terminator.
+template <std::size_t N>
+QString SK_FieldText(const char (&field)[N])
+{
+    return QString::fromLatin1(field, static_cast<int>(qstrnlen(field, static_cast<uint>(N))));
+}
 
 // The name under which signals and views know one array record of the picture.
 using LogicalDrive = SK_ConfigArray;

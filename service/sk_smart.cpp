@@ -45,11 +45,6 @@ ReadOutcome readSmart(const SK_ConfigDisk &disk, SKTL_AlignedBuffer &buffer, std
     return ReadOutcome::Failed;
 }
 
-QString fixedText(const char *field, std::size_t size)
-{
-    return QString::fromLatin1(field, static_cast<int>(qstrnlen(field, static_cast<uint>(size))));
-}
-
 SmartSummary freshSummary()
 {
     SmartSummary summary;
@@ -66,7 +61,7 @@ void writeReport(int diskId, const SK_ConfigDisk &disk, const QString &report,
         QTextStream out(&file);
         out << "-------------------------------------------------" << Qt::endl;
         out << "Disk " << diskId << " ( " << disk.ControllerNumber << ", " << disk.Channel
-            << "): " << fixedText(disk.Model, sizeof disk.Model) << Qt::endl;
+            << "): " << SK_FieldText(disk.Model) << Qt::endl;
         out << when << Qt::endl;
         out << report << Qt::endl;
         file.close();
