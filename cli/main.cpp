@@ -2,7 +2,7 @@
 // to SK_Cli. Questions are asked only when standard input is a terminal.
 
 #include "app/sk_backend.h"
-#include "cli/sk_cli.h"
+#include "cli/cli.h"
 
 #include <QCoreApplication>
 #include <QThread>

@@ -497,7 +497,8 @@ int SK_Cli::eventsVerb(const QStringList &args)
     for (;;) {
         for (;;) {
             const SK_EventMessage m = api_.GetEventMessage(next, static_cast<quint32>(language));
-            if (m.status != kValidEntry)
+            // A cursor that does not move forward would have us print one entry forever.
+            if (m.status != kValidEntry || m.number < next)
                 break;
             if (json_) {
                 QJsonObject o;
@@ -579,8 +580,6 @@ int SK_Cli::createVerb(const QStringList &args, bool transform)
     params.size = max ? 0 : size_.toInt(&ok);
     if (!ok)
         return usage(QStringLiteral("--size needs megabytes or max"));
-    if (transform && !needAdmin())
-        return SK_CLI_FAILED;
 
     // Judged first, as the dialog does with every change: nothing is sent on a verdict.
     const int largest =
@@ -606,31 +605,43 @@ int SK_Cli::createVerb(const QStringList &args, bool transform)
             "Invalid name: array names may not be the same as existing array names or "
             "contain the following characters: ()^,.=|\"-[]"));
     bool spare = false;
+    bool hotSwap = false;
     for (int i = 0; i < params.diskCount; ++i) {
         const int id = int(params.disks[i]);
         spare |= api_.DiskIsDedicatedSpare(id) || api_.DiskIsGlobalSpare(id);
+        hotSwap |= api_.DiskHasHotSwap(id);
+    }
+    if (transform) {
+        // The source's own members count too: the system learns of either side's
+        // devices only at the next boot.
+        for (int id : api_.GetDiskIds())
+            hotSwap |= api_.IsMember(arrayId, id) && api_.DiskHasHotSwap(id);
     }
     if (spare && !confirm(QStringLiteral("Warning: You have included a spare in the array. "
                                          "Would you like to continue?")))
         return fail(QStringLiteral("refused: a spare is included (answer yes or pass --yes)"));
+    if (transform && hotSwap &&
+        !confirm(QStringLiteral(
+            "Warning: This array transform includes a hot swappable device. After the "
+            "transform completes a system reboot must be performed to notify the OS of the "
+            "array's underlying device changes. Would you like to continue?")))
+        return fail(QStringLiteral("refused: a hot swap device (answer yes or pass --yes)"));
+    // The transform asks in the create dialog's words: users know the question by them.
     if (api_.HasDriveMixing(params) &&
-        !confirm(
-            QStringLiteral(
-                "Warning: drive mixing detected! For best performance, it is not recommended to "
-                "mix drives of substantially different performance. Do you want to %1 anyway?")
-                .arg(transform ? QStringLiteral("transform") : QStringLiteral("create"))))
+        !confirm(QStringLiteral(
+            "Warning: drive mixing detected! For best performance, it is not recommended to "
+            "mix drives of substantially different performance. Do you want to create "
+            "anyway?")))
         return fail(QStringLiteral("refused: drive mixing (answer yes or pass --yes)"));
-    if (transform &&
-        !confirm(
-            QStringLiteral("Transform array %1? Its data moves to the new layout.").arg(arrayId)))
-        return fail(QStringLiteral("refused: pass --yes to transform"));
     const int done =
         transform ? api_.TransformArray(params, arrayId, false) : api_.CreateArray(params, false);
     if (done < 1)
-        return fail(transform ? QStringLiteral("Transform failed")
+        return fail(transform ? QStringLiteral("Transform command failed")
                               : QStringLiteral("Create failed"));
-    out_ << (transform ? "transformed array " : "created array ") << params.name << " ("
-         << params.size << " MB)\n";
+    if (transform)
+        out_ << "transform of array " << arrayId << " started (" << params.size << " MB)\n";
+    else
+        out_ << "created array " << params.name << " (" << params.size << " MB)\n";
     return SK_CLI_DONE;
 }
 
@@ -669,6 +680,8 @@ int SK_Cli::arrayVerb(const QString &verb, const QStringList &args)
                 "contain the following characters: ()^,.=|\"-[]"));
         done = api_.RenameArray(id, newName);
     } else if (verb == QLatin1String("hide")) {
+        if (!needAdmin())
+            return SK_CLI_FAILED;
         done = api_.HideArray(id);
     } else if (verb == QLatin1String("unhide")) {
         done = api_.UnhideArray(id);
@@ -707,9 +720,8 @@ int SK_Cli::taskVerb(const QStringList &args)
     if (const int status = arrayArg(args, 1, id))
         return status;
     if (action == QLatin1String("remove") &&
-        (!needAdmin() || !confirm(QStringLiteral("Remove the task of array %1?").arg(id))))
-        return api_.IsAdministrator() ? fail(QStringLiteral("refused: pass --yes to remove"))
-                                      : SK_CLI_FAILED;
+        !confirm(QStringLiteral("Remove the task of array %1?").arg(id)))
+        return fail(QStringLiteral("refused: pass --yes to remove"));
     return api_.TaskControl(id, action) ? SK_CLI_DONE
                                         : fail(QStringLiteral("task %1 refused").arg(action));
 }

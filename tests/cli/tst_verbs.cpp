@@ -141,10 +141,12 @@ void tst_verbs::arraysDocumentFollowsThePicture()
 
 void tst_verbs::actionsSendWhatTheWindowSends_data()
 {
+    QTest::addColumn<QStringList>("before");
     QTest::addColumn<QStringList>("args");
     QTest::addColumn<ApiCall>("window");
-    auto row = [](const char *name, QStringList args, ApiCall call) {
-        QTest::newRow(name) << args << call;
+    auto row = [](const char *name, QStringList args, ApiCall call,
+                  QStringList before = QStringList()) {
+        QTest::newRow(name) << before << args << call;
     };
     row("delete with --yes", {"delete", "2", "--yes"}, [](SK_RaidApi &a) { a.DeleteArray(2); });
     row("secure erase", {"secure-erase", "2", "--yes"},
@@ -180,6 +182,34 @@ void tst_verbs::actionsSendWhatTheWindowSends_data()
     row("blink an array", {"blink", "array", "2", "on"},
         [](SK_RaidApi &a) { a.BlinkArray(2, true, 0); });
     row("rescan", {"rescan"}, [](SK_RaidApi &a) { a.Rescan(); });
+    row("unhide", {"unhide", "2"}, [](SK_RaidApi &a) { a.UnhideArray(2); }, {"hide", "2"});
+    row("check stop", {"check", "stop", "2"}, [](SK_RaidApi &a) { a.ConsistencyCheck(2, true); },
+        {"check", "start", "2"});
+    row("task pause", {"task", "pause", "2"},
+        [](SK_RaidApi &a) { a.TaskControl(2, QStringLiteral("pause")); }, {"check", "start", "2"});
+    row("task priority", {"task", "priority", "2", "3"},
+        [](SK_RaidApi &a) { a.SetTaskPriority(2, 3); }, {"check", "start", "2"});
+    row("clear metadata", {"clear-metadata", "0:6", "--yes"}, [](SK_RaidApi &a) {
+        SK_InitDisks d;
+        d.disks[0] = 7;
+        d.diskCount = 1;
+        d.clearMetadata = 1;
+        a.InitializeDisks(d);
+    });
+    row("transform the mirror into a RAID 5",
+        {"transform", "1", "--type", "RAID5", "--disks", "0:0,0:1,0:5", "--yes"},
+        [](SK_RaidApi &a) {
+            SK_Create p;
+            p.type = QStringLiteral("RAID5");
+            p.disks[0] = 1;
+            p.disks[1] = 2;
+            p.disks[2] = 6;
+            p.diskCount = 3;
+            p.cache = QStringLiteral("RW");
+            p.name = QStringLiteral("unused");
+            p.size = a.TransformArray(p, 1, true);
+            a.TransformArray(p, 1, false);
+        });
     row("create a mirror of the two free disks",
         {"create", "--type", "RAID1", "--disks", "0:5,0:6", "--size", "max", "--name", "Fast",
          "--yes"},
@@ -198,16 +228,34 @@ void tst_verbs::actionsSendWhatTheWindowSends_data()
 
 void tst_verbs::actionsSendWhatTheWindowSends()
 {
+    QFETCH(QStringList, before);
     QFETCH(QStringList, args);
     QFETCH(ApiCall, window);
-    CliLab cli(twoFreeDisks());
-    const CliRun r = cli.run(args);
-    QVERIFY2(r.status == 0, qPrintable(r.err));
-    QVERIFY(!cli.sent().empty());
-    Lab direct(twoFreeDisks());
-    direct->RefreshConfig();
-    window(*direct.api);
-    QCOMPARE(bytesOf(cli.sent()), bytesOf(direct.sent()));
+    // One lab at a time: each installs its host as the process's platform.
+    auto sentAfter = [&before](const std::function<bool(CliLab &)> &act) {
+        CliLab lab(twoFreeDisks());
+        if (!before.isEmpty() && lab.run(before).status != 0)
+            return bytesOf({});
+        const std::size_t already = lab.sent().size();
+        if (!act(lab))
+            return bytesOf({});
+        auto all = bytesOf(lab.sent());
+        all.erase(all.begin(), all.begin() + std::ptrdiff_t(already));
+        return all;
+    };
+    QString err;
+    const auto fromCli = sentAfter([&](CliLab &lab) {
+        const CliRun r = lab.run(args);
+        err = r.err;
+        return r.status == 0;
+    });
+    QVERIFY2(!fromCli.empty(), qPrintable(err));
+    const auto fromWindow = sentAfter([&](CliLab &lab) {
+        lab->RefreshConfig();
+        window(*lab.api);
+        return true;
+    });
+    QCOMPARE(fromCli, fromWindow);
 }
 
 void tst_verbs::refusalsSendNothing_data()
