@@ -54,6 +54,7 @@ private slots:
     void showVerbsInBothForms();
     void disksDocumentFollowsTheModel();
     void arraysDocumentFollowsThePicture();
+    void controllersAndTasksDocuments();
     void actionsSendWhatTheWindowSends_data();
     void actionsSendWhatTheWindowSends();
     void refusalsSendNothing_data();
@@ -137,6 +138,36 @@ void tst_verbs::arraysDocumentFollowsThePicture()
                  SK_RaidApi::CapacityText(qint64(a->layout.capacity)));
         QVERIFY(o["task"].isNull());
     }
+}
+
+void tst_verbs::controllersAndTasksDocuments()
+{
+    CliLab lab;
+    const Model m = lab.host->model();
+    const QJsonArray controllers = parsed(lab.run({"show", "controllers", "--json"})).array();
+    QCOMPARE(controllers.size(), int(m.controllers.size()));
+    const QJsonObject c = controllers.at(0).toObject();
+    QCOMPARE(c["name"].toString(), QString::fromStdString(m.controllers.at(0).name));
+    QCOMPARE(c["ports"].toInt(), int(m.controllers.at(0).ports));
+    QCOMPARE(c["id"].toString(), "0x" + QString::number(m.controllers.at(0).id, 16));
+
+    QCOMPARE(parsed(lab.run({"show", "tasks", "--json"})).array().size(), 0);
+    QCOMPARE(lab.run({"check", "start", "2"}).status, 0);
+    lab.clock->advance(60000);
+    const QJsonArray tasks = parsed(lab.run({"show", "tasks", "--json"})).array();
+    QCOMPARE(tasks.size(), 1);
+    const QJsonObject t = tasks.at(0).toObject();
+    QCOMPARE(t["array"].toInt(), 2);
+    QCOMPARE(t["name"].toString(), QStringLiteral("Data"));
+    QCOMPARE(t["kind"].toString(), QStringLiteral("CHECK"));
+    QCOMPARE(t["state"].toString(), QStringLiteral("STARTED"));
+    QVERIFY(t["percent"].toDouble() >= 0 && t["percent"].toDouble() <= 100);
+    const QString table = lab.run({"show", "tasks"}).out;
+    QVERIFY2(table.contains(QRegularExpression("2 +Data +CHECK +STARTED +\\d+\\.\\d%")),
+             qPrintable(table));
+    // The metrics carry the same task.
+    const QString metrics = lab.run({"metrics"}).out;
+    QVERIFY(metrics.contains("skcli_task_active{array=\"2\",name=\"Data\",kind=\"CHECK\"} 1"));
 }
 
 void tst_verbs::actionsSendWhatTheWindowSends_data()
