@@ -30,7 +30,12 @@ const Rule kRules[] = {
     {"SkSmartThresholdCrossed", "skcli_disk_smart_error", "1", "warning",
      "A disk reports a SMART threshold crossed"},
     {"SkDriversDown", "skcli_up", "0", "critical", "skcli could not reach the RAID drivers"},
+    {"SkTaskStalled", "skcli_task_active", "1", "warning",
+     "An array task has made no progress for an hour"},
 };
+// A stalled task fires only after its progress stood still for the rule's window and
+// hold; every other rule is judged earlier, when a task that merely runs is no fault.
+const QString kStalledAlert = QStringLiteral("SkTaskStalled");
 
 QString promtool()
 {
@@ -121,6 +126,12 @@ void tst_monitoring::faults()
             return true;
         });
     }) << QStringList{"SkArrayNotNormal"};
+    QTest::newRow("a check that makes no progress") << Fault([](Host &h) {
+        h.modify([](Model &m) {
+            m.arrays.at(1).task = Task{code::TaskCheck, code::TaskStarted, 25000};
+            return true;
+        });
+    }) << QStringList{"SkTaskStalled"};
     QTest::newRow("a SMART threshold crossed")
         << Fault([](Host &h) { h.setSmartError(dataMember(h), true); })
         << QStringList{"SkSmartThresholdCrossed"};
@@ -156,14 +167,17 @@ void tst_monitoring::rulesFireOnFaults()
         const QString series = line.left(blank);
         yaml += QStringLiteral("      - series: ") + quoted(series) +
                 QStringLiteral("\n        values: '") + line.mid(blank + 1) +
-                QStringLiteral("+0x20'\n");
+                QStringLiteral("+0x80'\n");
         samples[series.section('{', 0, 0)] << line;
     }
     yaml += QStringLiteral("    alert_rule_test:\n");
     int firing = 0;
     for (const Rule &rule : kRules) {
-        yaml += QStringLiteral("      - eval_time: 10m\n        alertname: ") +
-                QLatin1String(rule.alert) + QStringLiteral("\n        exp_alerts:");
+        const bool late = alerts.contains(kStalledAlert) && rule.alert == kStalledAlert;
+        yaml += QStringLiteral("      - eval_time: ") +
+                (late ? QStringLiteral("70m") : QStringLiteral("10m")) +
+                QStringLiteral("\n        alertname: ") + QLatin1String(rule.alert) +
+                QStringLiteral("\n        exp_alerts:");
         QString expected;
         if (alerts.contains(QLatin1String(rule.alert))) {
             for (const QString &line : samples[QLatin1String(rule.metric)]) {
