@@ -243,12 +243,18 @@ QString SK_CliMetrics(SK_RaidApi &api)
             if (reportValue(report, QStringLiteral("Percent of device life used"), key, v))
                 e.sample(QStringLiteral("skcli_disk_nvme_percentage_used"), base, v);
         } else {
-            const SmartSummary s = api.GetSmartInfo(diskId);
-            if (leadingNumber(s.temperature, v))
-                e.sample(QStringLiteral("skcli_disk_temperature_celsius"), base, v);
-            if (leadingNumber(s.powerOnHours, v))
-                e.sample(QStringLiteral("skcli_disk_power_on_seconds"), base, v * 3600);
+            // Read from the report rather than the overview call, which prints its
+            // complaints on standard output and would break the exposition.
             const QString key = QStringLiteral("Raw Value:");
+            const bool ssd =
+                api.PortTypeText(api.GetDiskIndex(diskId)).contains(QLatin1String("SSD"));
+            if (reportValue(report,
+                            ssd ? QStringLiteral("Airflow Temperature")
+                                : QStringLiteral("Temperature Celsius"),
+                            key, v))
+                e.sample(QStringLiteral("skcli_disk_temperature_celsius"), base, v);
+            if (reportValue(report, QStringLiteral("Poweron Time (Hours)"), key, v))
+                e.sample(QStringLiteral("skcli_disk_power_on_seconds"), base, v * 3600);
             if (reportValue(report, QStringLiteral("Reallocation Count"), key, v))
                 e.sample(QStringLiteral("skcli_disk_reallocated_sectors"), base, v);
             if (reportValue(report, QStringLiteral("Pending Sectors"), key, v))

@@ -55,6 +55,7 @@ private slots:
     void disksDocumentFollowsTheModel();
     void arraysDocumentFollowsThePicture();
     void controllersAndTasksDocuments();
+    void smartMetricsAgreeWithTheOverview();
     void actionsSendWhatTheWindowSends_data();
     void actionsSendWhatTheWindowSends();
     void refusalsSendNothing_data();
@@ -168,6 +169,27 @@ void tst_verbs::controllersAndTasksDocuments()
     // The metrics carry the same task.
     const QString metrics = lab.run({"metrics"}).out;
     QVERIFY(metrics.contains("skcli_task_active{array=\"2\",name=\"Data\",kind=\"CHECK\"} 1"));
+}
+
+// The metrics read the full report; the overview is the window's own call. Both must
+// tell the same hours and temperature for every kind of disk.
+void tst_verbs::smartMetricsAgreeWithTheOverview()
+{
+    CliLab lab;
+    const QString metrics = lab.run({"metrics"}).out;
+    for (int id : lab->GetDiskIds()) {
+        const QJsonObject s =
+            parsed(lab.run({"show", "smart", QString::number(id), "--json"})).object();
+        const QString labels =
+            QStringLiteral("{disk=\"%1\",port=\"%2\"} ").arg(id).arg(s["port"].toString());
+        const double hours = s["powerOnHours"].toString().toDouble();
+        QVERIFY2(metrics.contains("skcli_disk_power_on_seconds" + labels +
+                                  QString::number(hours * 3600, 'g', 15) + "\n"),
+                 qPrintable(labels));
+        const QString celsius = s["temperature"].toString().section(' ', 0, 0);
+        QVERIFY2(metrics.contains("skcli_disk_temperature_celsius" + labels + celsius + "\n"),
+                 qPrintable(labels + s["temperature"].toString()));
+    }
 }
 
 void tst_verbs::actionsSendWhatTheWindowSends_data()
@@ -350,7 +372,9 @@ void tst_verbs::createVerdictsAndMaximum()
     QCOMPARE(r.status, 1);
     QVERIFY(r.err.contains(createErrorList.value(46).trimmed()));
     QVERIFY(lab.sent().empty());
-    r = lab.run({"create", "--type", "RAID1", "--disks", "0:5,0:6", "--name", "M", "--yes"});
+    // The drive-mixing question answered yes on the terminal.
+    r = lab.run({"create", "--type", "RAID1", "--disks", "0:5,0:6", "--name", "M"},
+                [](const QString &question) { return question.contains("drive mixing"); });
     QCOMPARE(r.status, 0);
     lab->RefreshConfig();
     QVERIFY(lab.arrayNamed("M"));
