@@ -459,16 +459,26 @@ int SK_Cli::showVerb(const QStringList &args)
         QJsonObject o;
         o[QStringLiteral("disk")] = id;
         o[QStringLiteral("port")] = SK_CliModel::diskPort(api_, id);
-        o[QStringLiteral("status")] = s.status;
-        o[QStringLiteral("powerOnHours")] = s.powerOnHours;
-        o[QStringLiteral("temperature")] = s.temperature;
-        o[QStringLiteral("powerCycles")] = s.powerCycles;
+        // The summary's status word says "Failed" even for a disk that answered; like the
+        // window, what counts is whether figures came back.
+        const bool answered = !s.powerOnHours.isEmpty() || !s.temperature.isEmpty();
+        o[QStringLiteral("available")] = answered;
+        auto number = [](const QString &text) {
+            bool ok = false;
+            const qint64 n = text.trimmed().section(QLatin1Char(' '), 0, 0).toLongLong(&ok);
+            return ok ? QJsonValue(n) : QJsonValue(QJsonValue::Null);
+        };
+        o[QStringLiteral("powerOnHours")] = number(s.powerOnHours);
+        o[QStringLiteral("temperatureCelsius")] = number(s.temperature);
+        o[QStringLiteral("temperatureText")] = s.temperature.trimmed();
+        o[QStringLiteral("powerCycles")] = number(s.powerCycles);
         o[QStringLiteral("report")] = report;
         if (json_) {
             doc.setObject(o);
         } else {
             SK_CliTable table({QStringLiteral("Field"), QStringLiteral("Value")});
-            for (const char *key : {"port", "status", "powerOnHours", "temperature", "powerCycles"})
+            for (const char *key :
+                 {"port", "available", "powerOnHours", "temperatureText", "powerCycles"})
                 table.addRow(
                     {QString::fromLatin1(key), o[QLatin1String(key)].toVariant().toString()});
             out_ << table.render() << report;

@@ -79,7 +79,7 @@ void tst_verbs::showVerbsInBothForms_data()
     QTest::newRow("one array by number") << QStringList{"show", "array", "2"} << "RAID5";
     QTest::newRow("one disk by port") << QStringList{"show", "disk", "0:6"} << "NVMe";
     QTest::newRow("one disk by id") << QStringList{"show", "disk", "3"} << "0:2";
-    QTest::newRow("SMART of a disk") << QStringList{"show", "smart", "0:2"} << "powerOnHours";
+    QTest::newRow("SMART of a disk") << QStringList{"show", "smart", "0:2"} << "Poweron Time";
 }
 
 void tst_verbs::showVerbsInBothForms()
@@ -182,13 +182,14 @@ void tst_verbs::smartMetricsAgreeWithTheOverview()
             parsed(lab.run({"show", "smart", QString::number(id), "--json"})).object();
         const QString labels =
             QStringLiteral("{disk=\"%1\",port=\"%2\"} ").arg(id).arg(s["port"].toString());
-        const double hours = s["powerOnHours"].toString().toDouble();
+        QVERIFY(s["available"].toBool());
+        const double hours = s["powerOnHours"].toDouble();
         QVERIFY2(metrics.contains("skcli_disk_power_on_seconds" + labels +
                                   QString::number(hours * 3600, 'g', 15) + "\n"),
                  qPrintable(labels));
-        const QString celsius = s["temperature"].toString().section(' ', 0, 0);
+        const QString celsius = QString::number(s["temperatureCelsius"].toInt());
         QVERIFY2(metrics.contains("skcli_disk_temperature_celsius" + labels + celsius + "\n"),
-                 qPrintable(labels + s["temperature"].toString()));
+                 qPrintable(labels + s["temperatureText"].toString()));
     }
 }
 
