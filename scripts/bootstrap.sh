@@ -23,6 +23,8 @@ packages=(
     nlohmann-json3-dev googletest libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth
     clang libclang-rt-dev clang-format
+    # promtool: the skcli tests check its metrics and the alert rules with it
+    prometheus
 )
 
 # The Windows build of the plain C++ half: MinGW-w64 with POSIX threads (std::mutex and
