@@ -846,8 +846,11 @@ int SK_Cli::removalVerb(const QStringList &args)
         return SK_CLI_FAILED;
     if (!confirm(QStringLiteral("Prepare %1 %2 for removal?").arg(what, args.value(1))))
         return fail(QStringLiteral("refused: pass --yes"));
-    const int result =
-        what == QLatin1String("disk") ? api_.PrepareDiskRemoval(id) : api_.PrepareArrayRemoval(id);
-    return result == 1 ? SK_CLI_DONE
-                       : fail(QStringLiteral("prepare-removal failed (%1)").arg(result));
+    if (what == QLatin1String("disk"))
+        return api_.PrepareDiskRemoval(id) ? SK_CLI_DONE
+                                           : fail(QStringLiteral("prepare-removal failed"));
+    const SK_RemovalResult result = api_.PrepareArrayRemoval(id);
+    return result == SK_REMOVAL_READY
+               ? SK_CLI_DONE
+               : fail(QStringLiteral("prepare-removal failed (%1)").arg(int(result)));
 }
