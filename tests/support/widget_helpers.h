@@ -9,11 +9,14 @@
 #include <QApplication>
 #include <QColor>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QHeaderView>
 #include <QList>
 #include <QMessageBox>
 #include <QPalette>
+#include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QString>
@@ -87,21 +90,90 @@ inline void pressBoxButton(QMessageBox *box, QMessageBox::StandardButton button)
     (b ? b : box->buttons().constFirst())->click();
 }
 
-// Answers the next message box with `button` once it is up, handing the box to `note`
-// first. The box is modal, so the answer has to come from the event loop it runs.
-template <typename Note>
-void answerNextBoxNoting(QMessageBox::StandardButton button, Note note)
+// Whether the test that armed an answer is still the one running: an answer never
+// outlives its test, so a box of a later test can't be answered by mistake.
+struct RunningTest
 {
-    QTimer::singleShot(0, [button, note] {
+    QByteArray function = QTest::currentTestFunction();
+    QByteArray tag = QTest::currentDataTag();
+    bool stillRunning() const
+    {
+        return function == QTest::currentTestFunction() && tag == QTest::currentDataTag();
+    }
+};
+
+// Answers the next message box with `button` once it is up, handing the box to `note`
+// first. The box is modal, so the answer has to come from the event loop it runs. The
+// answer waits for its box only while the test that armed it runs.
+template <typename Note>
+void answerNextBoxNoting(QMessageBox::StandardButton button, Note note,
+                         RunningTest test = RunningTest())
+{
+    QTimer::singleShot(0, [button, note, test] {
+        if (!test.stillRunning())
+            return;
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box) {
-            answerNextBoxNoting(button, note);
+            answerNextBoxNoting(button, note, test);
             return;
         }
         note(box);
         pressBoxButton(box, button);
     });
 }
+
+// Fails the running test by name, and closes the window, when a modal window stays up
+// unanswered for `limitMs`: a test that forgot to answer a box ends with its name and
+// the box's words instead of hanging until the suite's time limit.
+class ModalWatchdog : public QObject
+{
+public:
+    explicit ModalWatchdog(int limitMs, QObject *parent) : QObject(parent), m_limitMs(limitMs)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, this, [this] { look(); });
+        m_timer.start(250);
+    }
+
+private:
+    void look()
+    {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (modal != m_modal) {
+            m_modal = modal;
+            m_since.start();
+            return;
+        }
+        if (!modal || m_since.elapsed() < m_limitMs)
+            return;
+        const auto *box = qobject_cast<QMessageBox *>(modal);
+        const QString words =
+            modal->windowTitle() + QStringLiteral(": ") + (box ? box->text() : modal->objectName());
+        QTest::qFail(
+            qPrintable(
+                QStringLiteral("a modal window was left unanswered (%1)").arg(words.left(200))),
+            __FILE__, __LINE__);
+        if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->done(QDialog::Rejected);
+        else
+            modal->close();
+        m_modal = nullptr;
+    }
+
+    int m_limitMs;
+    QTimer m_timer;
+    QPointer<QWidget> m_modal;
+    QElapsedTimer m_since;
+};
+
+// Every widget suite gets the watchdog as its application starts.
+inline void startModalWatchdog()
+{
+    if (!qApp || qApp->property("skModalWatchdog").toBool())
+        return;
+    qApp->setProperty("skModalWatchdog", true);
+    new ModalWatchdog(45000, qApp);
+}
+Q_COREAPP_STARTUP_FUNCTION(startModalWatchdog)
 
 // Answers the next message box with `button`, adding its text to `texts` if given.
 inline void answerNextBox(QMessageBox::StandardButton button, QStringList *texts = nullptr)
