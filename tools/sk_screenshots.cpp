@@ -130,8 +130,7 @@ public:
         window.show();
         if (!arrivedAndPicked(window, QStringLiteral("Data")))
             return false;
-        SK_RaidApi api;
-        SK_CreateDialog dialog(api, QSize(24, 24), &window);
+        SK_CreateDialog dialog(*window.api(), QSize(24, 24), &window);
         dialog.setWindowTitle(QObject::tr("Create"));
         dialog.resize(1100, 680);
         dialog.show(); // not exec(): the tool goes on while the dialog is open

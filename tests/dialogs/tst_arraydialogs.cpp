@@ -135,8 +135,6 @@ private slots:
     void transformCantShrinkButCommitsGrowth();
     void transformSeesTheArrayGone();
 
-    void screenshots();
-
 private:
     QTemporaryDir settingsDir;
 };
@@ -466,32 +464,6 @@ void TestArrayDialogs::transformSeesTheArrayGone()
     QCOMPARE(plain(widget<QLabel>(&dialog, "transformWarningLabel")->text()),
              QStringLiteral("Invalid Configuration: array not found"));
     QVERIFY(!widget<QPushButton>(&dialog, "commitButton")->isEnabled());
-}
-
-// Pictures of the dialogs in the dark and the light look, for a person to look at:
-// set SK_DIALOG_SHOTS to a folder.
-void TestArrayDialogs::screenshots()
-{
-    const QString folder = screenshotFolder();
-    if (folder.isEmpty())
-        QSKIP("SK_DIALOG_SHOTS is not set");
-    EmulatedHostScope scope;
-    addNvmeDisks(scope, 3);
-    Screenshots shots(folder);
-    SK_RaidApi api;
-    SK_CreateDialog create(api, QSize(16, 16));
-    widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid10Row);
-    checkDisks(&create, {kNvme, 8, 9, 10});
-    shots.shoot(&create, QStringLiteral("create"));
-    widget<QComboBox>(&create, "arrayTypeSel")->setCurrentIndex(kRaid5Row);
-    checkDisks(&create, {9, 10}, Qt::Unchecked);
-    shots.shoot(&create, QStringLiteral("create_invalid"));
-
-    addHardDisk(scope);
-    SK_TransformDialog transform(api, kData, QSize(16, 16));
-    click(&transform, "sameButton");
-    checkDisks(&transform, {11});
-    shots.shoot(&transform, QStringLiteral("transform"));
 }
 
 QTEST_MAIN(TestArrayDialogs)

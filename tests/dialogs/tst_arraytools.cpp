@@ -123,7 +123,6 @@ private slots:
     void tieringPairsThatMayBeCommitted();
 
     void windowStateIsRestored();
-    void screenshots();
 
 private:
     QTemporaryDir settingsDir;
@@ -477,35 +476,6 @@ void TestArrayTools::windowStateIsRestored()
     // The tiering dialog is larger than the others at the least.
     expectWindowStateKept(tiering, "hotArrayList", 3, {1000, 700});
     expectWindowStateKept(tiering, "coldArrayList", 2, {1000, 700});
-}
-
-// Pictures of the dialogs in the dark and the light look, for a person to look at:
-// set SK_DIALOG_SHOTS to a folder.
-void TestArrayTools::screenshots()
-{
-    const QString folder = screenshotFolder();
-    if (folder.isEmpty())
-        QSKIP("SK_DIALOG_SHOTS is not set");
-    EmulatedHostScope scope;
-    addPlainPair(scope);
-    runningCheck(scope, kData, 50);
-    Screenshots shots(folder);
-    SK_RaidApi api;
-    SK_TaskPriorityDialog priority(api, kData);
-    priority.setWindowTitle(QStringLiteral("Task Priority"));
-    shots.shoot(&priority, QStringLiteral("task_priority"));
-    SK_ArrayNameDialog name(api, kData);
-    name.setWindowTitle(QStringLiteral("Array Name"));
-    shots.shoot(&name, QStringLiteral("array_name"));
-    SK_DeleteForm form(api);
-    form.setWindowTitle(QStringLiteral("Delete"));
-    tick(widget<QTreeWidget>(&form, "arrayList"), kFast);
-    shots.shoot(&form, QStringLiteral("delete_arrays"));
-    SK_TieringDialog tiering(api);
-    tiering.setWindowTitle(QStringLiteral("Caching"));
-    tick(widget<QTreeWidget>(&tiering, "coldArrayList"), kBulk);
-    shots.shoot(&tiering, QStringLiteral("caching"));
-    QSettings().clear();
 }
 
 QTEST_MAIN(TestArrayTools)

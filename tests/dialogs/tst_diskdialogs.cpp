@@ -136,7 +136,6 @@ private slots:
     void propertiesSmartPollingReachesNvme();
 
     void windowStateIsRestored();
-    void screenshots();
 
 private:
     QTemporaryDir settingsDir;
@@ -587,39 +586,6 @@ void TestDiskDialogs::windowStateIsRestored()
          {"initDiskWindowGeometry", "initDiskListHeaderState", "clearMetaWindowGeometry",
           "clearMetaListHeaderState", "diskPropWindowGeometry", "diskPropListHeaderState"})
         QVERIFY2(settings.contains(QLatin1String(key)), key);
-    QSettings().clear();
-}
-
-// Pictures of the dialogs in the dark and the light look, for a person to look at:
-// set SK_DIALOG_SHOTS to a folder.
-void TestDiskDialogs::screenshots()
-{
-    const QString folder = screenshotFolder();
-    if (folder.isEmpty())
-        QSKIP("SK_DIALOG_SHOTS is not set");
-    EmulatedHostScope scope;
-    scope.host->modify([](Model &m) {
-        diskOf(m, kNvme).type = code::DiskTypeUnknown;
-        arrayOf(m, kData).layout.members.at(1).flags |= code::MemberFailed;
-        return true;
-    });
-    Screenshots shots(folder);
-    SK_RaidApi api;
-    SK_diskSpareDialog options(api, QStringLiteral("0 5"), QStringLiteral("WDC WD40EFPX"), kSpare,
-                               kData);
-    options.setWindowTitle(QStringLiteral("Options"));
-    shots.shoot(&options, QStringLiteral("disk_options"));
-    SK_initDisksDialog initialise(api);
-    initialise.setWindowTitle(QStringLiteral("Initialize Disks"));
-    tick(&initialise, {kNvme});
-    shots.shoot(&initialise, QStringLiteral("initialise_disks"));
-    SK_ClearMetadataDialog clear(api);
-    clear.setWindowTitle(QStringLiteral("Clear Metadata"));
-    shots.shoot(&clear, QStringLiteral("clear_metadata"));
-    SK_DiskProperites properties(api);
-    properties.setWindowTitle(QStringLiteral("Properties"));
-    tick(&properties, {kHdd1, kHdd2});
-    shots.shoot(&properties, QStringLiteral("disk_properties"));
     QSettings().clear();
 }
 

@@ -90,8 +90,6 @@ private slots:
 
     void windowStateIsRestored();
 
-    void screenshots();
-
 private:
     QString smartLogPath() const { return tempDir.filePath("StrataKeep/SMART_LOG.log"); }
     QString transcriptPath() const { return tempDir.filePath("StrataKeep/StrataKeep.log"); }
@@ -364,24 +362,6 @@ void TestInfoDialogs::windowStateIsRestored()
                           3);
     expectWindowStateKept([&api] { return std::make_unique<sk_ControllerProperties>(api); },
                           "controllerList", 3);
-}
-
-// Pictures of the dialogs in the dark and the light look, for a person to look at:
-// set SK_DIALOG_SHOTS to a folder.
-void TestInfoDialogs::screenshots()
-{
-    const QString folder = screenshotFolder();
-    if (folder.isEmpty())
-        QSKIP("SK_DIALOG_SHOTS is not set");
-    EmulatedHostScope scope;
-    Screenshots shots(folder);
-    SK_RaidApi api;
-    SK_SmartDiskDialog smart(api);
-    shots.shoot(&smart, QStringLiteral("smart"));
-    sk_ControllerProperties controllers(api);
-    shots.shoot(&controllers, QStringLiteral("controllers"));
-    SK_AboutDialog about(api, nullptr, QStringLiteral("9.3.3-00097"));
-    shots.shoot(&about, QStringLiteral("about"));
 }
 
 QTEST_MAIN(TestInfoDialogs)

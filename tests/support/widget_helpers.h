@@ -1,13 +1,12 @@
 // Helpers the widget suites share: finding a dialog's parts by object name, ticking
 // rows of its lists, answering the message boxes it raises, keeping the settings and
-// files it writes away from the user's own, picking an array in the main window and
-// checking its menu entries, and taking pictures of a dialog for a person to look at.
+// files it writes away from the user's own, and picking an array in the main window and
+// checking its menu entries.
 #pragma once
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QColor>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -15,15 +14,12 @@
 #include <QHeaderView>
 #include <QList>
 #include <QMessageBox>
-#include <QPalette>
 #include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QString>
 #include <QStringList>
-#include <QStyleFactory>
 #include <QTimer>
-#include <QTranslator>
 #include <QTreeWidget>
 #include <QVariant>
 #include <QtTest>
@@ -268,75 +264,3 @@ bool pickArray(Window &window, int id)
         window.arrayListSelectionChanged(row, 0);
     return window.currentArray() == quint32(id);
 }
-
-inline QPalette darkPalette()
-{
-    QPalette p;
-    p.setColor(QPalette::Window, QColor(45, 45, 48));
-    p.setColor(QPalette::WindowText, Qt::white);
-    p.setColor(QPalette::Base, QColor(30, 30, 30));
-    p.setColor(QPalette::AlternateBase, QColor(45, 45, 48));
-    p.setColor(QPalette::Text, Qt::white);
-    p.setColor(QPalette::Button, QColor(55, 55, 58));
-    p.setColor(QPalette::ButtonText, Qt::white);
-    p.setColor(QPalette::Highlight, QColor(38, 79, 120));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(127, 127, 127));
-    return p;
-}
-
-// Where pictures of the dialogs go: the folder SK_DIALOG_SHOTS names, empty for none.
-inline QString screenshotFolder()
-{
-    return qEnvironmentVariable("SK_DIALOG_SHOTS");
-}
-
-// Pictures of widgets in the dark and the light look, in the Fusion style, for a person
-// to look at. The application gets its own palette back when the pictures are done.
-class Screenshots
-{
-public:
-    // SK_DIALOG_SHOTS_QM may list .qm files (separated by ':') to install first, so the
-    // dialogs made afterwards can be looked at in another language.
-    explicit Screenshots(const QString &into) : folder(into), light(QApplication::palette())
-    {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        const QString files = qEnvironmentVariable("SK_DIALOG_SHOTS_QM");
-        for (const QString &file : files.split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
-            auto translator = std::make_unique<QTranslator>();
-            QVERIFY2(translator->load(file), qPrintable(file));
-            QCoreApplication::installTranslator(translator.get());
-            translators.push_back(std::move(translator));
-        }
-    }
-    ~Screenshots()
-    {
-        QApplication::setPalette(light);
-        for (const auto &translator : translators)
-            QCoreApplication::removeTranslator(translator.get());
-    }
-    Screenshots(const Screenshots &) = delete;
-    Screenshots &operator=(const Screenshots &) = delete;
-
-    // Saves <name>_dark.png and <name>_light.png of `w`, then hides it again.
-    void shoot(QWidget *w, const QString &name)
-    {
-        for (const bool dark : {true, false}) {
-            QApplication::setPalette(dark ? darkPalette() : light);
-            w->show();
-            QVERIFY(QTest::qWaitForWindowExposed(w));
-            QTest::qWait(50);
-            const QString file =
-                folder + QLatin1Char('/') + name + (dark ? "_dark.png" : "_light.png");
-            QVERIFY2(w->grab().save(file), qPrintable(file));
-        }
-        w->hide();
-    }
-
-private:
-    const QString folder;
-    const QPalette light;
-    std::vector<std::unique_ptr<QTranslator>> translators;
-};
