@@ -374,17 +374,19 @@ void SK_MainWindow::buildArrayTree()
 
 namespace {
 
-// Marks on the clone which rows of the live tree are open, three levels deep.
+// Marks on the clone which rows of the live tree are open, three levels deep. Every
+// array row is looked at; below, only the rows a user can see, under an open parent:
+// an array opened later shows its rows closed.
 void noteExpansion(QTreeWidgetItem *live, QTreeWidgetItem *copy, int depth)
 {
     if (depth > 3)
         return;
     for (int i = 0; i < live->childCount() && i < copy->childCount(); ++i) {
         QTreeWidgetItem *child = live->child(i);
-        if (child->isExpanded())
-            copy->child(i)->setData(0, SK_Role::Expanded, true);
-        if (depth == 1 || child->isExpanded())
-            noteExpansion(child, copy->child(i), depth + 1);
+        if (!child->isExpanded())
+            continue;
+        copy->child(i)->setData(0, SK_Role::Expanded, true);
+        noteExpansion(child, copy->child(i), depth + 1);
     }
 }
 
@@ -438,7 +440,9 @@ void SK_MainWindow::rebuildArrayTree()
                     now->data(0, SK_Role::TaskRow).toString() == QLatin1String("expand");
                 const bool closedByUser =
                     was->data(0, SK_Role::TaskRow).toString() == QLatin1String("collapsed");
-                if (closedByUser)
+                // The user's "closed" holds while the task runs; the next task opens the
+                // row by itself again.
+                if (closedByUser && !now->data(0, SK_Role::TaskRow).toString().isEmpty())
                     now->setData(0, SK_Role::TaskRow, QStringLiteral("collapsed"));
                 now->setExpanded(open && !closedByUser);
                 if (was->data(0, SK_Role::Selected).toBool() && !selectionTaken) {
