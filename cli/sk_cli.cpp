@@ -12,7 +12,51 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
+#include <cstdio>
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace {
+
+// The service's SMART read prints its complaints to standard output, as the console's
+// diagnostics do; while it runs they go to standard error, so a script reading
+// standard output gets the document alone.
+class StdoutToStderr
+{
+public:
+    StdoutToStderr()
+    {
+        std::fflush(stdout);
+#ifdef _WIN32
+        m_saved = _dup(_fileno(stdout));
+        _dup2(_fileno(stderr), _fileno(stdout));
+#else
+        m_saved = dup(fileno(stdout));
+        dup2(fileno(stderr), fileno(stdout));
+#endif
+    }
+    ~StdoutToStderr()
+    {
+        std::fflush(stdout);
+        if (m_saved < 0)
+            return;
+#ifdef _WIN32
+        _dup2(m_saved, _fileno(stdout));
+        _close(m_saved);
+#else
+        dup2(m_saved, fileno(stdout));
+        close(m_saved);
+#endif
+    }
+    StdoutToStderr(const StdoutToStderr &) = delete;
+    StdoutToStderr &operator=(const StdoutToStderr &) = delete;
+
+private:
+    int m_saved = -1;
+};
 
 constexpr quint32 kValidEntry = 53;
 constexpr int kMinimumSizeMB = 100;
@@ -446,7 +490,12 @@ int SK_Cli::showVerb(const QStringList &args)
         int id = 0;
         if (const int status = diskArg(args, 1, id))
             return status;
-        const SmartSummary s = api_.GetSmartInfo(id);
+        out_.flush();
+        SmartSummary s;
+        {
+            const StdoutToStderr quiet;
+            s = api_.GetSmartInfo(id);
+        }
         QString report;
         QTemporaryDir dir;
         if (dir.isValid()) {
