@@ -26,6 +26,15 @@ if(SK_SANITIZE)
     target_link_options(sk_compile_options INTERFACE ${_sk_san})
 endif()
 
+# Line coverage of the whole suite, read with gcovr (scripts/bootstrap.sh coverage).
+if(SK_COVERAGE)
+    if(MSVC)
+        message(FATAL_ERROR "SK_COVERAGE is supported with GCC and Clang only")
+    endif()
+    target_compile_options(sk_compile_options INTERFACE --coverage -O0)
+    target_link_options(sk_compile_options INTERFACE --coverage)
+endif()
+
 # sk_qt_autogen(target...): moc, uic and rcc for targets of the Qt half. They are
 # switched on target by target, never for the whole tree: each one adds a generator
 # step to its target, and the plain C++ half must build without any Qt tool.

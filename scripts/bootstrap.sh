@@ -4,11 +4,13 @@
 #   scripts/bootstrap.sh run       install what is missing, build, start the console
 #   scripts/bootstrap.sh test      install what is missing, build, run every test
 #   scripts/bootstrap.sh sanitize  the test suite again under ASan and UBSan
+#   scripts/bootstrap.sh coverage  the test suite with line coverage, summed up by gcovr
 #   scripts/bootstrap.sh fuzz      build the libFuzzer targets with clang, run each briefly
 #   scripts/bootstrap.sh windows   cross build the plain C++ half with MinGW-w64, run its tests under Wine
 #   scripts/bootstrap.sh deps      only install the packages
 #
-# Build folders: build/ (run), build-test/, build-asan/, build-fuzz/, build-windows/.
+# Build folders: build/ (run), build-test/, build-asan/, build-cov/, build-fuzz/,
+# build-windows/.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -169,10 +171,22 @@ sanitize)
     configure_and_build build-asan -DCMAKE_BUILD_TYPE=Debug -DSK_SANITIZE=ON
     run_tests build-asan
     ;;
+coverage)
+    install_deps
+    install_deps gcovr
+    configure_and_build build-cov -DCMAKE_BUILD_TYPE=Debug -DSK_COVERAGE=ON
+    find build-cov -name '*.gcda' -delete
+    run_tests build-cov
+    # Product code only: the layers and the emulated host, not tests, tools or moc output.
+    gcovr --root . --object-directory build-cov \
+        --filter '(app|cli|dialogs|service|commands|events|config|driver|emulator)/' \
+        --exclude '.*_autogen/.*' --print-summary --txt build-cov/coverage.txt \
+        --html-details build-cov/coverage.html
+    ;;
 fuzz) install_deps && fuzz_briefly ;;
 windows) install_deps "${windows_packages[@]}" && windows_build_and_test ;;
 *)
-    sed -n '2,13p' "$0"
+    sed -n '2,14p' "$0"
     exit 2
     ;;
 esac
