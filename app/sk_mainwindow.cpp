@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
@@ -70,7 +71,14 @@ SK_MainWindow::SK_MainWindow(QWidget *parent)
                                                 QCoreApplication::applicationName());
     logFilePath = SK_AppLog::ensureLogFile(folder, QCoreApplication::applicationName());
     raidApi->SetLogPath(logFilePath);
-    computeEventsLogPath();
+    eventJournal = std::make_unique<SK_EventJournal>(
+        *raidApi,
+        [] {
+            const QString place = SK_AppLog::folderFor(QCoreApplication::applicationDirPath(),
+                                                       QCoreApplication::applicationName());
+            return QDir(place).absoluteFilePath(QStringLiteral("EventsLog.xml"));
+        },
+        logFilePath);
 
     isAdmin = raidApi->IsAdministrator();
 

@@ -4,7 +4,6 @@
 // one set of actions, the status bar, and three timers that keep the picture live.
 // Everything it knows of the RAID stack it asks of SK_RaidApi.
 
-#include "app/sk_eventrecord.h"
 #include "service/service.h"
 
 #include <QByteArray>
@@ -15,6 +14,8 @@
 #include <QTimer>
 
 #include <list>
+#include <memory>
+#include <vector>
 
 class QAction;
 class QActionGroup;
@@ -144,11 +145,7 @@ private:
     bool darkTheme() const;
 
     // Event view
-    void addEventRow(const SK_EventRecord &record);
-    void appendApplicationLog(const std::list<SK_EventRecord> &records);
-    void appendEventsXml(const std::list<SK_EventRecord> &records);
-    void loadEventsXml(bool repair);
-    void computeEventsLogPath();
+    void addEventRows(const std::vector<SK_EventRecord> &records);
     void sortEventList();
 
     // Appearance
@@ -179,19 +176,13 @@ private:
     quint32 selectedArray = 0;
     bool isAdmin = false;
     bool cachingEnabled = false;
-    quint32 nextEventNumber = 3;
-    quint32 firstLiveEvent = 3;
     quint32 minEventNumber = 3;
     qint32 eventLanguage = 0;
-    bool firstEventPoll = true;
     bool expandFirstArray = true;
-    std::list<SK_EventRecord> eventRecords;
-    std::list<SK_EventRecord> newEventRecords;
+    std::unique_ptr<SK_EventJournal> eventJournal;
     QString selectedDiskText;
     QString logFilePath;
-    QString eventsLogPath;
     QString languageDir = QStringLiteral(":/translations/languages");
-    QString eventDateFormat = QStringLiteral("M/dd/yyyy h:mm:ss AP  ");
     qint32 statusInterval = 3000;
     qint32 refreshInterval = 5000;
     QList<LogicalDrive *> arrayList;
