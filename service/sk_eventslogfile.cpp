@@ -7,6 +7,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
+
 namespace {
 
 const QByteArray kClosingTag("</Logs>");
@@ -42,7 +44,7 @@ void writeEntries(QXmlStreamWriter &xml, const std::vector<SK_EventRecord> &reco
 }
 
 // One LogEntry's fields by tag, in any order; other tags are passed over.
-void readEntry(QXmlStreamReader &xml, SK_EventTime &entry)
+void readEntry(QXmlStreamReader &xml, SK_EventRecord &entry)
 {
     while (xml.readNextStartElement()) {
         const QStringRef tag = xml.name();
@@ -52,14 +54,62 @@ void readEntry(QXmlStreamReader &xml, SK_EventTime &entry)
             entry.code = xml.readElementText().toInt();
         else if (tag == QLatin1String("LogTime"))
             entry.time = xml.readElementText();
+        else if (tag == QLatin1String("Text"))
+            entry.text = xml.readElementText();
         else
             xml.skipCurrentElement();
     }
 }
 
+struct FileContent
+{
+    std::vector<SK_EventRecord> entries; // the whole entries up to the first fault
+    bool wellFormed = false;             // no fault at all
+    bool ours = false;                   // and a UTF-8 "Logs" document an append can extend
+    QString fault;
+};
+
+FileContent readContent(QIODevice &device)
+{
+    FileContent content;
+    QXmlStreamReader xml(&device);
+    bool rootIsLogs = false;
+    if (xml.readNextStartElement()) {
+        rootIsLogs = xml.name() == QLatin1String("Logs");
+        while (xml.readNextStartElement()) {
+            if (xml.name() != QLatin1String("LogEntry")) {
+                xml.skipCurrentElement();
+                continue;
+            }
+            SK_EventRecord entry;
+            readEntry(xml, entry);
+            if (xml.hasError())
+                break; // cut off inside this entry: it isn't whole
+            content.entries.push_back(entry);
+        }
+    }
+    // Whatever follows the document element must be well-formed too.
+    while (!xml.atEnd())
+        xml.readNext();
+    content.wellFormed = !xml.hasError();
+    const QStringRef encoding = xml.documentEncoding();
+    content.ours =
+        content.wellFormed && rootIsLogs &&
+        (encoding.isEmpty() || encoding.compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) == 0);
+    if (xml.hasError())
+        content.fault = QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(xml.errorString());
+    return content;
+}
+
 } // namespace
 
 SK_EventsLogFile::SK_EventsLogFile(const QString &path) : m_path(path) {}
+
+void SK_EventsLogFile::setPath(const QString &path)
+{
+    m_path = path;
+    m_known = {};
+}
 
 bool SK_EventsLogFile::fail(const QString &why) const
 {
@@ -67,8 +117,16 @@ bool SK_EventsLogFile::fail(const QString &why) const
     return false;
 }
 
-// A damaged file is kept beside under a name of its own, never written into: the times
-// it holds can still be read by hand.
+// The file as this object last left or read it whole: appending to it then needs no
+// second look at what it holds.
+SK_EventsLogFile::Known SK_EventsLogFile::stateOf(const QFile &file)
+{
+    const QFileInfo info(file);
+    return Known{info.size(), info.lastModified()};
+}
+
+// A damaged file is kept beside under a name of its own, never written into: what it
+// holds can still be read by hand.
 bool SK_EventsLogFile::setDamagedFileAside()
 {
     const QFileInfo info(m_path);
@@ -87,19 +145,31 @@ bool SK_EventsLogFile::setDamagedFileAside()
 bool SK_EventsLogFile::append(const std::vector<SK_EventRecord> &records)
 {
     m_error.clear();
+    m_asidePath.clear();
     QFile file(m_path);
     qint64 size = file.size();
+    std::vector<SK_EventRecord> carried; // the whole entries of a damaged file
     if (size > 0) {
         if (!file.open(QIODevice::ReadWrite))
             return fail(file.errorString());
-        const qint64 closingAt = closingTagOffset(file);
+        // A file this object hasn't seen whole is read once before it is extended: only
+        // a sound one of ours is, never one damaged anywhere.
+        bool sound = m_known.valid() && m_known == stateOf(file);
+        if (!sound) {
+            FileContent content = readContent(file);
+            sound = content.ours;
+            carried = std::move(content.entries);
+        }
+        const qint64 closingAt = sound ? closingTagOffset(file) : -1;
         if (closingAt < 0) {
             file.close();
             if (!setDamagedFileAside())
                 return false;
             size = 0;
-        } else if (!file.resize(closingAt) || !file.seek(closingAt)) {
-            return fail(file.errorString());
+        } else {
+            carried.clear();
+            if (!file.resize(closingAt) || !file.seek(closingAt))
+                return fail(file.errorString());
         }
     }
     if (size == 0 && !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
@@ -112,6 +182,7 @@ bool SK_EventsLogFile::append(const std::vector<SK_EventRecord> &records)
         xml.writeStartDocument();
         xml.writeStartElement(QStringLiteral("Logs"));
     }
+    writeEntries(xml, carried);
     writeEntries(xml, records);
     if (size > 0) {
         file.write("\n");
@@ -120,8 +191,12 @@ bool SK_EventsLogFile::append(const std::vector<SK_EventRecord> &records)
         xml.writeEndElement();
         xml.writeEndDocument();
     }
-    if (xml.hasError() || !file.flush())
+    if (xml.hasError() || !file.flush()) {
+        m_known = {};
         return fail(file.errorString());
+    }
+    file.close();
+    m_known = stateOf(file);
     return true;
 }
 
@@ -145,40 +220,28 @@ bool SK_EventsLogFile::repair()
     kept.reserve(text.size());
     for (const QByteArray &line : qAsConst(lines))
         kept += line + '\n';
+    m_known = {};
     if (!file.resize(0) || !file.seek(0) || file.write(kept) != kept.size())
         return fail(file.errorString());
     return true;
 }
 
-bool SK_EventsLogFile::readTimes(std::vector<SK_EventTime> &entries) const
+bool SK_EventsLogFile::readTimes(std::vector<SK_EventTime> &entries, Reading reading)
 {
     m_error.clear();
     entries.clear();
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return fail(file.errorString());
-    QXmlStreamReader xml(&file);
-    if (xml.readNextStartElement()) {
-        while (xml.readNextStartElement()) {
-            if (xml.name() != QLatin1String("LogEntry")) {
-                xml.skipCurrentElement();
-                continue;
-            }
-            SK_EventTime entry;
-            readEntry(xml, entry);
-            entries.push_back(entry);
-        }
+    FileContent content = readContent(file);
+    m_known = content.ours ? stateOf(file) : Known{};
+    if (!content.wellFormed) {
+        m_error = m_path + QStringLiteral(", ") + content.fault;
+        if (reading == Reading::WholeFile)
+            return false;
     }
-    // Whatever follows the document element must be well-formed too: a file that is
-    // damaged anywhere gives no time at all.
-    while (!xml.atEnd())
-        xml.readNext();
-    if (xml.hasError()) {
-        entries.clear();
-        return fail(QStringLiteral("%1, line %2: %3")
-                        .arg(m_path)
-                        .arg(xml.lineNumber())
-                        .arg(xml.errorString()));
-    }
+    entries.reserve(content.entries.size());
+    for (const SK_EventRecord &entry : content.entries)
+        entries.push_back(SK_EventTime{entry.number, entry.code, entry.time});
     return true;
 }

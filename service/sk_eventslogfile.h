@@ -11,9 +11,12 @@
 
 #include "service/sk_eventrecord.h"
 
+#include <QDateTime>
 #include <QString>
 
 #include <vector>
+
+class QFile;
 
 // The time a file entry holds for the event of `number` and `code`.
 struct SK_EventTime
@@ -29,22 +32,27 @@ public:
     explicit SK_EventsLogFile(const QString &path = QString());
 
     QString path() const { return m_path; }
-    void setPath(const QString &path) { m_path = path; }
+    void setPath(const QString &path);
 
-    // Appends one entry per record. An absent or empty file gets the whole frame; a
-    // file that doesn't end with the closing tag (cut off, or not ours) is kept beside
-    // under a name of its own, "<name>.damaged-<date>-<time>.xml", and a new file is
-    // started, so nothing it held is written over.
+    // Appends one entry per record. An absent or empty file gets the whole frame. A
+    // file that isn't a sound one of ours (cut off by a crash, damaged by hand, another
+    // program's) is kept beside, unchanged, as "<name>.damaged-<date>-<time>.xml", and a
+    // new file is started with the entries of it that were still whole, then the new
+    // ones. The file is read through once before this object first extends it.
     bool append(const std::vector<SK_EventRecord> &records);
 
     // Drops the lines that hold only "<", which an append cut short can leave behind;
     // the file is rewritten only when there was such a line.
     bool repair();
 
+    enum class Reading {
+        WholeFile, // a file damaged anywhere gives nothing
+        UpToFault, // the whole entries before the first fault
+    };
     // Every entry's number, code and time, in file order. False, with `entries` left
-    // empty, when the file can't be opened or isn't well-formed XML: then no time is
-    // known.
-    bool readTimes(std::vector<SK_EventTime> &entries) const;
+    // empty, when the file can't be opened, or, read as a whole file, isn't
+    // well-formed XML: then no time is known.
+    bool readTimes(std::vector<SK_EventTime> &entries, Reading reading = Reading::WholeFile);
 
     // Why the last call failed, for the logs; empty after a success.
     QString errorString() const { return m_error; }
@@ -52,10 +60,23 @@ public:
     QString setAsidePath() const { return m_asidePath; }
 
 private:
+    // The size and time of the file when this object last saw it whole and sound.
+    struct Known
+    {
+        qint64 size = -1;
+        QDateTime modified;
+        bool valid() const { return size >= 0; }
+        bool operator==(const Known &other) const
+        {
+            return size == other.size && modified == other.modified;
+        }
+    };
+    static Known stateOf(const QFile &file);
     bool fail(const QString &why) const;
     bool setDamagedFileAside();
 
     QString m_path;
     mutable QString m_error;
     QString m_asidePath;
+    Known m_known;
 };
