@@ -79,10 +79,13 @@ bool appendLines(const QString &path, const QStringList &lines, Writer writer)
     QFile file;
     if (!open(file, path, writer))
         return false;
+    // One flush for the whole batch: a start with a full driver log writes tens of
+    // thousands of lines at once, and a flush each would make a write each.
     QTextStream out(&file);
     for (const QString &line : lines)
-        out << line << Qt::endl;
-    return true;
+        out << line << '\n';
+    out.flush();
+    return out.status() == QTextStream::Ok;
 }
 
 } // namespace SK_AppLog

@@ -46,8 +46,7 @@ private slots:
     void enablementFollowsTheSelectedArray_data();
     void enablementFollowsTheSelectedArray();
     void newEventsGetATimeAndReachTheFiles();
-    void eventsXmlGrowsWithoutDamage_data();
-    void eventsXmlGrowsWithoutDamage();
+    void aWrappedDriverLogShowsEachEntryOnce();
     void notifierKeepsTheConsoleQuiet();
     void statusBarShowsTheDriversFigures();
     void missingDriversAreReported();
@@ -190,56 +189,43 @@ void tst_MainWindow::newEventsGetATimeAndReachTheFiles()
     QVERIFY2(found, "the time of the event was not read back from EventsLog.xml");
 }
 
-void tst_MainWindow::eventsXmlGrowsWithoutDamage_data()
+// A driver log that has dropped its oldest entries is read once from its oldest: every
+// entry shows once in the pane, and every new one reaches the application log and
+// EventsLog.xml once.
+void tst_MainWindow::aWrappedDriverLogShowsEachEntryOnce()
 {
-    const QByteArray sound =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Logs>\n"
-        "  <LogEntry>\n    <LogNumber>2</LogNumber>\n"
-        "    <LogTime>1/02/2026 3:04:05 PM  </LogTime>\n"
-        "    <Code>1001</Code>\n    <Text>Kept.</Text>\n  </LogEntry>\n</Logs>";
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<bool>("setAside"); // the old file must be kept beside, unchanged
-    QTest::newRow("ends with the closing tag") << sound << false;
-    QTest::newRow("a line end after the closing tag") << sound + "\n\n" << false;
-    QTest::newRow("cut off inside an entry") << sound.left(sound.size() - 40) << true;
-    QTest::newRow("not an event file") << QByteArray("just some text\n") << true;
-}
+    m_host->host->modify([](sk_emu::Model &m) {
+        m.eventCapacity = 8;
+        for (int i = 0; i < 20; ++i)
+            m.logEvent(1012);
+        return true;
+    });
+    SK_MainWindow window;
+    QTreeWidget *events = pane(&window, "eventList");
+    const auto shownNumbers = [events] {
+        QList<int> numbers;
+        for (int i = 0; i < events->topLevelItemCount(); ++i)
+            numbers << events->topLevelItem(i)->data(0, Qt::DisplayRole).toInt();
+        std::sort(numbers.begin(), numbers.end());
+        return numbers;
+    };
+    QList<int> held;
+    for (const sk_emu::Event &e : m_host->host->model().events)
+        held << int(e.number);
+    QCOMPARE(shownNumbers(), held);
 
-void tst_MainWindow::eventsXmlGrowsWithoutDamage()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(bool, setAside);
-    const QDir folder = QFileInfo(eventsLogPath()).dir();
-    for (const QString &old : folder.entryList({QStringLiteral("EventsLog.damaged-*")}))
-        QFile::remove(folder.absoluteFilePath(old));
-    {
-        SK_MainWindow window; // the first poll only reads the file
-        QFile file(eventsLogPath());
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(before);
-        file.close();
-        m_host->host->injectEvent(1012, {});
-        window.menu_refresh();
-    }
+    for (int i = 0; i < 3; ++i)
+        m_host->host->injectEvent(1014, {7});
+    window.menu_refresh();
+    const QList<int> added{held.back() + 1, held.back() + 2, held.back() + 3};
+    QCOMPARE(shownNumbers(), held + added);
 
-    QFile file(eventsLogPath());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QDomDocument document;
-    QVERIFY2(document.setContent(&file), "EventsLog.xml no longer parses");
-    QStringList codes;
-    for (QDomElement e = document.documentElement().firstChildElement(); !e.isNull();
-         e = e.nextSiblingElement())
-        codes << e.firstChildElement(QStringLiteral("Code")).text();
-    QCOMPARE(codes.last(), QStringLiteral("1012"));
-    QCOMPARE(codes.contains(QStringLiteral("1001")), !setAside);
-
-    const QStringList aside = folder.entryList({QStringLiteral("EventsLog.damaged-*.xml")});
-    QCOMPARE(aside.size(), setAside ? 1 : 0);
-    if (setAside) {
-        QFile kept(folder.absoluteFilePath(aside.first()));
-        QVERIFY(kept.open(QIODevice::ReadOnly));
-        QCOMPARE(kept.readAll(), before);
-    }
+    QFile xml(eventsLogPath());
+    QVERIFY(xml.open(QIODevice::ReadOnly));
+    QCOMPARE(xml.readAll().count("<Code>1014</Code>"), 3);
+    QFile log(QFileInfo(eventsLogPath()).dir().filePath(QStringLiteral("StrataKeep.log")));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    QCOMPARE(log.readAll().count("Array 7 has been deleted"), 3);
 }
 
 void tst_MainWindow::notifierKeepsTheConsoleQuiet()
