@@ -8,6 +8,7 @@
 
 #include "app/app.h"
 #include "support/emulated_host.h"
+#include "support/widget_helpers.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -214,12 +215,7 @@ int main(int argc, char **argv)
     Q_INIT_RESOURCE(resources);
     QApplication app(argc, argv);
     QTemporaryDir scratch;
-    qputenv("TMPDIR", QFile::encodeName(scratch.path()));
-    QStandardPaths::setTestModeEnabled(true);
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch.path());
-    QCoreApplication::setOrganizationName(QStringLiteral("StrataKeepBench"));
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
+    keepConsoleFilesIn(scratch.path());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -11,6 +11,7 @@
 #include "dialogs/dialogs.h"
 #include "driver/driver.h"
 #include "emulator/emulator.h"
+#include "tools/sk_toolfiles.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -211,12 +212,7 @@ int main(int argc, char **argv)
     QTemporaryDir scratch;
     if (!scratch.isValid())
         return 1;
-    qputenv("TMPDIR", QFile::encodeName(scratch.path()));
-    QStandardPaths::setTestModeEnabled(true);
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch.path());
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QCoreApplication::setOrganizationName(QStringLiteral("VOR"));
+    keepConsoleFilesIn(scratch.path());
 
     std::vector<std::unique_ptr<QTranslator>> translators;
     for (int i = 3; i < argc; ++i) {

@@ -9,6 +9,7 @@
 #include "dialogs/dialogs.h"
 #include "driver/driver.h"
 #include "emulator/emulator.h"
+#include "tools/sk_toolfiles.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -225,12 +226,7 @@ int main(int argc, char **argv)
     QTemporaryDir scratch;
     if (!scratch.isValid())
         return 1;
-    qputenv("TMPDIR", QFile::encodeName(scratch.path()));
-    QStandardPaths::setTestModeEnabled(true);
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch.path());
-    QCoreApplication::setApplicationName(QStringLiteral("StrataKeep"));
-    QCoreApplication::setOrganizationName(QStringLiteral("VOR"));
+    keepConsoleFilesIn(scratch.path());
 
     sk_emu::Model scenario;
     std::string error;
