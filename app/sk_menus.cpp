@@ -206,17 +206,17 @@ void SK_MainWindow::createMenus()
     helpMenu = makeMenu(bar, QStringLiteral("helpMenu"), tr("&Help"));
     helpMenu->addActions({aboutAct, userGuideAct, supportAct, eulaAct});
 
+    // Theme, icon size and font size as the last run left them; the font size first,
+    // so the menus are made in the size the user chose.
+    QSettings settings;
+    applyFontSize(settings.value(SK_SettingsKey::ApplicationFontSize).toString());
     for (QMenu *menu : {fileMenu, arrayMenu, diskMenu, viewMenu, helpMenu}) {
         bar->addMenu(menu);
         menu->setFont(listFont);
     }
     bar->setFont(menuBarFont);
-
-    // Theme, icon size and font size as the last run left them.
-    QSettings settings;
     applyTheme(settings.value(SK_SettingsKey::ApplicationTheme).toString());
     applyIconSize(settings.value(SK_SettingsKey::ApplicationIconSize).toString());
-    applyFontSize(settings.value(SK_SettingsKey::ApplicationFontSize).toString());
 }
 
 namespace {

@@ -10,6 +10,8 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
@@ -363,6 +365,11 @@ void tst_MainWindow::themeChoiceIsStoredAndApplied()
              QStringLiteral("largeFont"));
     QCOMPARE(pane(&window, "eventList")->font().pointSize(), 12);
     action(&window, "darkAct")->trigger();
+
+    // The next start makes its menus in the size chosen.
+    SK_MainWindow again;
+    QCOMPARE(widget<QMenu>(&again, "arrayMenu")->font().pointSize(), 12);
+    QCOMPARE(again.menuBar()->font().pointSize(), 13);
 }
 
 QTEST_MAIN(tst_MainWindow)
