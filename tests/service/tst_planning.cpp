@@ -228,7 +228,10 @@ void tst_planning::createVerdicts_data()
     row("RAID1", 3, -86, "RAID1 requires 2 drives");
     row("RAID1N", 2, -85, "RAID1n requires 3 or more drives", "forced");
     row("RAID1N", 9, -84, "RAID1n is limited to 8 drives", "forced");
+    row("RAID5", 0, -100, "create would exceed maximum number of arrays allowed",
+        "beside twelve arrays, before 'no disks'", Setup::TwelveArrays);
     row("RAID10", 5, -82, "RAID10 must have an even number of 4 to 8 disks");
+    row("RAID10", 10, -82, "RAID10 must have an even number of 4 to 8 disks", "even but too many");
     row("RAID10N", 5, -79, "RAID10n requires a minimum of 6 disks", "forced");
     row("RAID10N", 6, -78, "number of disks not evenly divisible by sub count", "forced");
     row("RAID5", 2, -75, "RAID5 requires at least 3 drives");
@@ -237,6 +240,7 @@ void tst_planning::createVerdicts_data()
     row("RTIER", 0, -71, "You must select 2 VDs for RTIER", "forced, not 'no disks'");
     row("RAID6", 3, -69, "RAID6 requires at least 4 drives", "forced");
     row("RAID6", 9, -68, "RAID6 is limited to 8 drives", "forced");
+    row("RAID6", 17, -68, "RAID6 is limited to 8 drives", "forced, the limit of 8 first");
     row("RAID50", 5, -65, "must select at least 6 drives for a RAID50", "forced");
     row("RAID50", 6, -64, "--sub-member must be 3 or greater for RAID50", "forced");
     row("RAID60", 7, -61, "must select at least 8 drives for a RAID60", "forced");
